@@ -1,0 +1,12 @@
+#include "app/AppDelegate.h"
+
+#include "app/BrowsingData.h"
+
+namespace orken {
+
+void AppDelegate::applicationWillTerminate()
+{
+    clearBrowsingData(cookies_, websiteData_, files_, kAppBundleIdentifier_);
+}
+
+} // namespace orken

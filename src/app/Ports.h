@@ -1,0 +1,53 @@
+#pragma once
+
+#include "platform/Alerts.h"
+#include "platform/Application.h"
+#include "platform/BrowserView.h"
+#include "platform/BundleInfo.h"
+#include "platform/Console.h"
+#include "platform/ContentsReader.h"
+#include "platform/CookieStorage.h"
+#include "platform/Files.h"
+#include "platform/HardwareRegistry.h"
+#include "platform/MainQueue.h"
+#include "platform/NotificationCenter.h"
+#include "platform/WebsiteDataStore.h"
+#include "platform/Windows.h"
+
+namespace orken {
+
+/// What a desktop has to bring. A list for the composition root alone: everything else takes the ports it uses.
+struct Ports {
+    Application& application;
+    Windows& windows;
+    NotificationCenter& notifications;
+    MainQueue& mainQueue;
+    Console& console;
+    BundleInfo& bundle;
+    Files& files;
+    CookieStorage& cookies;
+    WebsiteDataStore& websiteData;
+    ContentsReader& contentsReader;
+    HardwareRegistry& hardware;
+    BrowserViews& browserViews;
+};
+
+/// The ports of a desktop whose members have the ports' names.
+template <class Desktop>
+[[nodiscard]] Ports portsOf(Desktop& desktop)
+{
+    return {.application = desktop.application,
+            .windows = desktop.windows,
+            .notifications = desktop.notifications,
+            .mainQueue = desktop.mainQueue,
+            .console = desktop.console,
+            .bundle = desktop.bundle,
+            .files = desktop.files,
+            .cookies = desktop.urlSession,
+            .websiteData = desktop.engine,
+            .contentsReader = desktop.contentsReader,
+            .hardware = desktop.hardware,
+            .browserViews = desktop.engine};
+}
+
+} // namespace orken

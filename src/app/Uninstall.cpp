@@ -1,0 +1,10 @@
+#include "app/Uninstall.h"
+
+namespace orken {
+
+void confirmUninstall()
+{
+    // There is no installed bundle to remove yet.
+}
+
+} // namespace orken

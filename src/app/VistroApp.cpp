@@ -1,0 +1,55 @@
+#include "app/VistroApp.h"
+
+#include "app/FirstView.h"
+#include "session/ContentView.h"
+#include "session/WebView.h"
+
+namespace orken {
+
+VistroApp::VistroApp(const Ports& ports, Endpoints endpoints)
+    : ports_(ports), endpoints_(std::move(endpoints)),
+      appDelegate_(ports.cookies, ports.websiteData, ports.files, endpoints_.bundleIdentifier),
+      identity_(ports.hardware, ports.contentsReader, endpoints_.ipEchoURL),
+      versionGate_(ports.bundle, ports.application), windowControl_(ports.windows, ports.notifications, ports.console)
+{
+}
+
+int VistroApp::main()
+{
+    return ports_.application.run(appDelegate_, body());
+}
+
+WindowGroup VistroApp::body()
+{
+    return {.title = "ORKEN'E Hoşgeldiniz", .content = [this] { return makeFirstView(); }};
+}
+
+std::unique_ptr<View> VistroApp::makeFirstView()
+{
+    return std::make_unique<FirstView>(endpoints_.updateImageURL(),
+                                       FirstView::Ports{.application = ports_.application,
+                                                        .windows = ports_.windows,
+                                                        .versionGate = versionGate_,
+                                                        .makeContentView = [this] { return makeContentView(); }});
+}
+
+std::unique_ptr<View> VistroApp::makeContentView()
+{
+    return std::make_unique<ContentView>(
+        endpoints_.loginHost,
+        ContentView::Ports{.identity = identity_,
+                           .console = ports_.console,
+                           .mainQueue = ports_.mainQueue,
+                           .notifications = ports_.notifications,
+                           .windowControl = windowControl_,
+                           .makeSessionScreen = [this](const std::string& link) { return makeSessionScreen(link); }});
+}
+
+std::unique_ptr<View> VistroApp::makeSessionScreen(const std::string& link)
+{
+    return std::make_unique<WebView>(link, WebView::Ports{.browserViews = ports_.browserViews,
+                                                          .windowControl = windowControl_,
+                                                          .console = ports_.console});
+}
+
+} // namespace orken

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "app/AppDelegate.h"
+#include "app/Ports.h"
+#include "app/VersionGate.h"
+#include "crypto/DeviceIdentity.h"
+#include "foundation/Endpoints.h"
+#include "session/WindowControl.h"
+
+namespace orken {
+
+/// The application: one window group with the start screen, and the delegate that cleans up at the end. It wires the
+/// product together and lives as long as the process. Main thread only.
+class VistroApp {
+public:
+    VistroApp(const Ports& ports, Endpoints endpoints);
+
+    VistroApp(const VistroApp&) = delete;
+    VistroApp& operator=(const VistroApp&) = delete;
+
+    /// The process's exit status.
+    [[nodiscard]] int main();
+
+    [[nodiscard]] WindowGroup body();
+
+private:
+    [[nodiscard]] std::unique_ptr<View> makeFirstView();
+    [[nodiscard]] std::unique_ptr<View> makeContentView();
+    [[nodiscard]] std::unique_ptr<View> makeSessionScreen(const std::string& link);
+
+    Ports ports_;
+    Endpoints endpoints_;
+    AppDelegate appDelegate_;
+    DeviceIdentity identity_;
+    VersionGate versionGate_;
+    WindowControl windowControl_;
+};
+
+} // namespace orken

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/Console.h"
+#include "platform/NavigationDelegate.h"
+#include "session/WebViewModel.h"
+
+#include <memory>
+
+namespace orken {
+
+/// The session's navigation delegate: copies what finished pages say into the model, accepts the server's certificate
+/// whatever it is, and lets every navigation through except those to `blob:` addresses. Main thread only.
+class Coordinator final : public NavigationDelegate {
+public:
+    Coordinator(std::shared_ptr<WebViewModel> viewModel, Console& console)
+        : viewModel_(std::move(viewModel)), console_(console)
+    {
+    }
+
+    void didFailNavigation(BrowserView& view, const PlatformError& error) override;
+    void didFailProvisionalNavigation(BrowserView& view, const PlatformError& error) override;
+    void didFinishNavigation(BrowserView& view) override;
+    void didReceiveAuthenticationChallenge(BrowserView& view, const AuthenticationChallenge& challenge,
+                                           std::function<void(ChallengeDisposition)> decide) override;
+    void decidePolicyForNavigationAction(BrowserView& view, const NavigationAction& action,
+                                         std::function<void(NavigationPolicy)> decide) override;
+
+private:
+    std::shared_ptr<WebViewModel> viewModel_;
+    Console& console_;
+};
+
+} // namespace orken

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/NavigationDelegate.h"
+
+#include <functional>
+
+namespace orken {
+
+/// Takes over a navigation to a `blob:` address. Always ends the decision with cancel, now or later. Main thread only.
+void downloadBlob(BrowserView& webView, const NavigationAction& action, std::function<void(NavigationPolicy)> decide);
+
+} // namespace orken

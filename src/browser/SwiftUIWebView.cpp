@@ -1,0 +1,45 @@
+#include "browser/SwiftUIWebView.h"
+
+#include "browser/PageScripts.h"
+#include "foundation/Url.h"
+
+namespace orken {
+
+namespace {
+
+constexpr const char* kContextMenuScript = "document.addEventListener(\"contextmenu\", function(event) {\n"
+                                           "    event.preventDefault();\n"
+                                           "});";
+
+} // namespace
+
+std::shared_ptr<Coordinator> SwiftUIWebView::makeCoordinator() const
+{
+    return std::make_shared<Coordinator>(viewModel_, console_);
+}
+
+std::shared_ptr<BrowserView> SwiftUIWebView::makeNSView(const Context& context)
+{
+    webView_->setNavigationDelegate(context.coordinator);
+    const std::string link = viewModel_->link.get();
+    if (parseUrl(link)) {
+        webView_->load({.url = link, .cachePolicy = CachePolicy::useProtocolCachePolicy, .timeout = Seconds{60}});
+    }
+    BrowserConfiguration& configuration = webView_->configuration();
+    configuration.setCustomUserAgent(kUserAgent);
+    configuration.setAllowsLinkPreview(true);
+    configuration.setAllowsContentJavaScript(true);
+    configuration.setDeveloperExtrasEnabled(true);
+    configuration.addUserScript({.source = kContextMenuScript,
+                                 .injectionTime = ScriptInjectionTime::documentEnd,
+                                 .forMainFrameOnly = true});
+    viewModel_->webView = webView_;
+    return webView_;
+}
+
+void SwiftUIWebView::updateNSView(BrowserView& nsView, const Context&)
+{
+    runPageScripts(nsView, *viewModel_);
+}
+
+} // namespace orken

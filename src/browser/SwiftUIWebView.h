@@ -1,0 +1,45 @@
+#pragma once
+
+#include "browser/Coordinator.h"
+#include "platform/BrowserView.h"
+#include "session/WebViewModel.h"
+#include "view/Representable.h"
+#include "view/State.h"
+
+#include <memory>
+
+namespace orken {
+
+/// Sent with every request of the browser view; the provider's site knows the client by it.
+inline constexpr const char* kUserAgent = "Mozilla/5.0 (Macintosh; Intel Mac OS X 10_15_7) ApleWebKit/405.1.15 (KHTML, "
+                                          "like Gecko) Versions/16.6 Safari/405.1.15";
+
+/// Puts the browser view into the session screen: configures it once, loads the model's link, and runs the page
+/// scripts on every redraw. Main thread only.
+class SwiftUIWebView {
+public:
+    using Context = RepresentableContext<Coordinator>;
+
+    SwiftUIWebView(std::shared_ptr<WebViewModel> viewModel, State<bool> removedIdentity,
+                   std::shared_ptr<BrowserView> webView, Console& console)
+        : viewModel_(std::move(viewModel)), removedIdentity_(std::move(removedIdentity)), webView_(std::move(webView)),
+          console_(console)
+    {
+    }
+
+    [[nodiscard]] std::shared_ptr<Coordinator> makeCoordinator() const;
+
+    /// The browser view given at construction. An invalid link loads nothing; the configuration is made all the same.
+    [[nodiscard]] std::shared_ptr<BrowserView> makeNSView(const Context& context);
+
+    void updateNSView(BrowserView& nsView, const Context& context);
+
+private:
+    std::shared_ptr<WebViewModel> viewModel_;
+    /// Carried with the view; the flag that the page scripts use is the model's.
+    State<bool> removedIdentity_;
+    std::shared_ptr<BrowserView> webView_;
+    Console& console_;
+};
+
+} // namespace orken

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace orken {
+
+using Bytes = std::vector<std::uint8_t>;
+
+/// The same bytes, to be read as text; valid as long as `bytes` is unchanged.
+[[nodiscard]] inline std::string_view asText(const Bytes& bytes)
+{
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
+[[nodiscard]] inline Bytes toBytes(std::string_view text)
+{
+    return {text.begin(), text.end()};
+}
+
+} // namespace orken

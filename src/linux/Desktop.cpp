@@ -1,0 +1,62 @@
+#include "linux/Desktop.h"
+
+#include <csignal>
+#include <filesystem>
+#include <glib.h>
+
+namespace orken::desktop {
+
+namespace {
+
+bool hasRenderNode()
+{
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator("/dev/dri", error)) {
+        if (entry.path().filename().string().starts_with("renderD")) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Settings of the libraries below, unless the user has made them. They are read when the toolkit and the engine start.
+void prepareProcess(bool renderNode)
+{
+    // A pipe that nobody reads any more must not end an exam.
+    std::signal(SIGPIPE, SIG_IGN);
+    if (!renderNode) {
+        // Software rendering through OpenGL takes twice as long to the first frame.
+        g_setenv("GSK_RENDERER", "cairo", FALSE);
+    }
+    if (g_file_test("/proc/driver/nvidia/version", G_FILE_TEST_EXISTS)) {
+        // The driver shows black pages for the buffers that the engine shares in this way.
+        g_setenv("WEBKIT_DISABLE_DMABUF_RENDERER", "1", FALSE);
+    }
+}
+
+} // namespace
+
+Desktop::Desktop(const DesktopSettings& settings)
+    : bundle(settings.version), urlSession(settings.certificateAuthorityFile),
+      contentsReader(settings.certificateAuthorityFile),
+      engine({.bundleIdentifier = settings.bundleIdentifier,
+              .hasRenderNode = hasRenderNode(),
+              .report = [](const std::string& line) { reportDiagnostic(line); }}),
+      screens(notifications, [this] { return windows.alertParent(); }),
+      application(settings.bundleIdentifier, windows, screens,
+                  {.started = [this] { engine.loadWhenIdle(); },
+                   .stopProduct =
+                       [this] {
+                           mainQueue.stop();
+                           timers.stop();
+                           alerts.stop();
+                           engine.stop();
+                       },
+                   .isCleaningUp = [this] { return engine.isRemovingData(); },
+                   .isNested = [this] { return alertStack_.depth() > 0; }})
+{
+    alertsEnded_ = alertGate_.opened().subscribe([this] { timers.alertsEnded(); });
+    prepareProcess(hasRenderNode());
+}
+
+} // namespace orken::desktop

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "linux/LateEngine.h"
+#include "linux/gtk/DesktopAlerts.h"
+#include "linux/gtk/DesktopApplication.h"
+#include "linux/gtk/DesktopScreens.h"
+#include "linux/gtk/DesktopWindows.h"
+#include "linux/services/BlockingReader.h"
+#include "linux/services/BuiltBundleInfo.h"
+#include "linux/services/HttpSession.h"
+#include "linux/services/LocalFiles.h"
+#include "linux/services/LoopTimers.h"
+#include "linux/services/MachineHardware.h"
+#include "linux/services/MainLoopQueue.h"
+#include "linux/services/StandardConsole.h"
+#include "platform/AlertStack.h"
+#include "platform/NotificationCenter.h"
+
+#include <optional>
+#include <string>
+
+namespace orken::desktop {
+
+struct DesktopSettings {
+    std::string bundleIdentifier;
+    /// Short version of the bundle.
+    std::string version;
+    /// Trusted by the URL session in place of the system's authorities; for a provider on this machine.
+    std::optional<std::string> certificateAuthorityFile;
+};
+
+/// Every port of the Linux desktop. Making one does no work beyond the process's own settings; the toolkit starts with
+/// the application. One a process, main thread only.
+class Desktop {
+public:
+    explicit Desktop(const DesktopSettings& settings);
+
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+
+private:
+    // In order of construction: what others are made of comes first.
+    AlertStack alertStack_;
+    AlertGate alertGate_{alertStack_};
+    Subscription alertsEnded_;
+
+public:
+    NotificationCenter notifications;
+    MainLoopQueue mainQueue;
+    LoopTimers timers{alertStack_};
+    StandardConsole console;
+    BuiltBundleInfo bundle;
+    LocalFiles files;
+    MachineHardware hardware;
+    HttpSession urlSession;
+    BlockingReader contentsReader;
+    LateEngine engine;
+    DesktopWindows windows{notifications, alertGate_};
+    DesktopScreens screens;
+    DesktopAlerts alerts{alertStack_, windows, alertGate_};
+    DesktopApplication application;
+};
+
+} // namespace orken::desktop

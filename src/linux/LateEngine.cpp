@@ -1,0 +1,102 @@
+#include "linux/LateEngine.h"
+
+#include <dlfcn.h>
+#include <glib.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <utility>
+
+namespace orken::desktop {
+
+namespace {
+
+constexpr const char* kModule = "../lib/orken/liborken-engine.so";
+
+std::filesystem::path modulePath()
+{
+    std::error_code error;
+    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
+    return (program.parent_path() / kModule).lexically_normal();
+}
+
+} // namespace
+
+LateEngine::~LateEngine()
+{
+    stop();
+}
+
+EngineModule* LateEngine::load()
+{
+    if (engine_) {
+        return engine_.get();
+    }
+    // Never unloaded: the engine's threads and types stay until the process ends.
+    void* module = dlopen(modulePath().c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
+    void* symbol = module ? dlsym(module, kMakeEngineSymbol) : nullptr;
+    if (!symbol) {
+        const char* reason = dlerror();
+        settings_.report(std::string("orken: the web engine cannot be loaded: ") + (reason ? reason : "unknown"));
+        return nullptr;
+    }
+    engine_.reset(reinterpret_cast<MakeEngine>(symbol)(settings_));
+    return engine_.get();
+}
+
+void LateEngine::loadWhenIdle()
+{
+    auto loadAndWarmUp = +[](gpointer data) -> gboolean {
+        auto* self = static_cast<LateEngine*>(data);
+        self->idle_ = 0;
+        if (EngineModule* engine = self->load()) {
+            engine->warmUp();
+        }
+        return G_SOURCE_REMOVE;
+    };
+    if (idle_ == 0 && !engine_) {
+        idle_ = g_idle_add_full(G_PRIORITY_LOW, loadAndWarmUp, this, nullptr);
+    }
+}
+
+std::shared_ptr<BrowserView> LateEngine::make()
+{
+    EngineModule* engine = load();
+    if (!engine) {
+        std::fflush(nullptr);
+        std::_Exit(EXIT_FAILURE);
+    }
+    return engine->browserViews().make();
+}
+
+void LateEngine::fetchDataRecords(WebsiteDataTypes types,
+                                  std::function<void(std::vector<WebsiteDataRecord>)> completion)
+{
+    // Also without a session before: what an earlier client left behind after a crash is cleared too.
+    if (EngineModule* engine = load()) {
+        engine->websiteData().fetchDataRecords(types, std::move(completion));
+        return;
+    }
+    completion({});
+}
+
+void LateEngine::removeData(WebsiteDataTypes types, const std::vector<WebsiteDataRecord>& records,
+                            std::function<void()> completion)
+{
+    if (EngineModule* engine = load()) {
+        engine->websiteData().removeData(types, records, std::move(completion));
+    }
+}
+
+void LateEngine::stop()
+{
+    if (const unsigned idle = std::exchange(idle_, 0)) {
+        g_source_remove(idle);
+    }
+    if (engine_) {
+        engine_->stop();
+    }
+}
+
+} // namespace orken::desktop

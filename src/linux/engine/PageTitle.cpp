@@ -1,0 +1,61 @@
+#include "linux/engine/PageTitle.h"
+
+#include "linux/GObjectPtr.h"
+#include "linux/engine/AsyncReply.h"
+#include "linux/engine/ScriptWorld.h"
+
+#include <optional>
+#include <utility>
+
+namespace orken::desktop {
+
+namespace {
+
+constexpr Seconds kPatience{0.5};
+
+/// Absent when the page has no document to ask or an element named "title" stands in the way.
+std::optional<std::string> textResult(WebKitWebView* view, GAsyncResult* result)
+{
+    const auto value = GObjectPtr<JSCValue>::adopt(webkit_web_view_evaluate_javascript_finish(view, result, nullptr));
+    if (!value || !jsc_value_is_string(value.get())) {
+        return std::nullopt;
+    }
+    return GText(jsc_value_to_string(value.get())).get();
+}
+
+} // namespace
+
+PageTitle::PageTitle(WebKitWebView* view, Answer answer)
+    : view_(view), answer_(std::move(answer)), deadline_(kPatience, [this] { answerNow(); })
+{
+    webkit_web_view_evaluate_javascript(view, "document.title", -1, kScriptWorld, nullptr, nullptr, AsyncReply::call,
+                                        AsyncReply::of([query = std::weak_ptr(self_), view](GAsyncResult* result) {
+                                            // The engine keeps the view alive until it has called back.
+                                            auto title = textResult(view, result);
+                                            const auto alive = query.lock();
+                                            if (!alive) {
+                                                return;
+                                            }
+                                            if (title) {
+                                                (*alive)->answer(std::move(*title));
+                                            } else {
+                                                (*alive)->answerNow();
+                                            }
+                                        }));
+}
+
+void PageTitle::answerNow()
+{
+    const char* title = webkit_web_view_get_title(view_);
+    answer(title ? title : "");
+}
+
+void PageTitle::answer(std::string title)
+{
+    // Who is answered may destroy this.
+    if (const auto once = std::exchange(answer_, nullptr)) {
+        once(std::move(title));
+    }
+}
+
+} // namespace orken::desktop

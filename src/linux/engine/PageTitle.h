@@ -1,0 +1,34 @@
+#pragma once
+
+#include "linux/engine/Deadline.h"
+
+#include <webkit/webkit.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace orken::desktop {
+
+/// Asks a page that has just finished for its title: the engine's own title property is still the old or an empty one
+/// at that moment. Answers exactly once, unless destroyed before, and at the latest after half a second. Main thread
+/// only.
+class PageTitle {
+public:
+    using Answer = std::function<void(std::string title)>;
+
+    PageTitle(WebKitWebView* view, Answer answer);
+
+    /// Answers now with what the engine knows; does nothing when it has been answered.
+    void answerNow();
+
+private:
+    void answer(std::string title);
+
+    WebKitWebView* view_;
+    Answer answer_;
+    Deadline deadline_;
+    std::shared_ptr<PageTitle*> self_ = std::make_shared<PageTitle*>(this);
+};
+
+} // namespace orken::desktop

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "linux/SignalConnection.h"
+
+#include <webkit/webkit.h>
+
+#include <vector>
+
+namespace orken::desktop {
+
+/// Answers what the engine would otherwise put to the user in dialogs of its own: nothing is shown, and the page goes
+/// on as if the user had declined. The handlers live as long as the result.
+[[nodiscard]] std::vector<SignalConnection> silenceDefaults(WebKitWebView* view);
+
+} // namespace orken::desktop

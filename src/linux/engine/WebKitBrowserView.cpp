@@ -1,0 +1,152 @@
+#include "linux/engine/WebKitBrowserView.h"
+
+#include "foundation/Url.h"
+#include "linux/engine/SilentDefaults.h"
+
+#include <utility>
+
+namespace orken::desktop {
+
+namespace {
+
+constexpr const char* kBlankAddress = "about:blank";
+
+std::optional<std::string> present(const char* text)
+{
+    return text && *text ? std::optional<std::string>(text) : std::nullopt;
+}
+
+} // namespace
+
+WebKitBrowserView::WebKitBrowserView(GObjectPtr<WebKitWebView> view, Report report)
+    : view_(std::move(view)), report_(std::move(report)), configuration_(view_.get())
+{
+}
+
+WebKitBrowserView::WebKitBrowserView(std::unique_ptr<SpareView> spare, Report report)
+    : WebKitBrowserView(spare->view(), std::move(report))
+{
+    spare_ = std::move(spare);
+}
+
+void WebKitBrowserView::stop()
+{
+    delegate_.reset();
+    restart_.reset();
+}
+
+void WebKitBrowserView::setNavigationDelegate(std::weak_ptr<NavigationDelegate> delegate)
+{
+    delegate_ = std::move(delegate);
+}
+
+void WebKitBrowserView::load(const UrlRequest& request)
+{
+    if (!parseUrl(request.url)) {
+        return;
+    }
+    request_ = request;
+    finished_.reset();
+    if (spare_) {
+        spare_->whenReady([this] { beginRequest(); });
+    } else {
+        beginRequest();
+    }
+}
+
+void WebKitBrowserView::beginRequest()
+{
+    if (!loads_) {
+        connect();
+    }
+    loads_->request(*request_);
+}
+
+void WebKitBrowserView::connect()
+{
+    loads_ = std::make_unique<PageLoads>(
+        view_.get(), PageLoads::Events{.started =
+                                           [this] {
+                                               if (pageTitle_) {
+                                                   pageTitle_->answerNow();
+                                               }
+                                           },
+                                       .finished = [this] { pageFinished(); },
+                                       .failed = [this](PageLoads::Stage stage,
+                                                        const PlatformError& error) { reportFailed(stage, error); }});
+    policies_ = std::make_unique<NavigationPolicies>(view_.get(), *this, delegate_);
+    restart_ = std::make_unique<ProcessRestart>(
+        view_.get(), [this] { loadAgain(); }, report_);
+    silentDefaults_ = silenceDefaults(view_.get());
+}
+
+void WebKitBrowserView::loadAgain()
+{
+    if (loads_->hasCommitted()) {
+        webkit_web_view_reload(view_.get());
+    } else {
+        // There is no page yet that the engine could load again.
+        loads_->request(*request_);
+    }
+}
+
+void WebKitBrowserView::pageFinished()
+{
+    const auto keep = shared_from_this();
+    if (pageTitle_) {
+        pageTitle_->answerNow();
+    }
+    pageTitle_ = std::make_unique<PageTitle>(view_.get(), [this, address = url()](const std::string& pageTitle) {
+        reportFinished({.title = present(pageTitle.c_str()), .url = address});
+    });
+}
+
+void WebKitBrowserView::reportFinished(FinishedPage page)
+{
+    // The delegate may give the view up.
+    const auto keep = shared_from_this();
+    if (const auto delegate = delegate_.lock()) {
+        finished_ = std::move(page);
+        delegate->didFinishNavigation(*this);
+        finished_.reset();
+    }
+}
+
+void WebKitBrowserView::reportFailed(PageLoads::Stage stage, const PlatformError& error)
+{
+    const auto keep = shared_from_this();
+    const auto delegate = delegate_.lock();
+    if (!delegate) {
+        return;
+    }
+    if (stage == PageLoads::Stage::provisional) {
+        delegate->didFailProvisionalNavigation(*this, error);
+    } else {
+        delegate->didFailNavigation(*this, error);
+    }
+}
+
+std::optional<std::string> WebKitBrowserView::title() const
+{
+    if (finished_) {
+        return finished_->title;
+    }
+    return loads_ ? present(webkit_web_view_get_title(view_.get())) : std::nullopt;
+}
+
+std::optional<std::string> WebKitBrowserView::url() const
+{
+    if (finished_) {
+        return finished_->url;
+    }
+    if (!loads_) {
+        // Nothing has been asked for, or the first load waits for the spare view's blank page.
+        return request_ ? std::optional(request_->url) : std::nullopt;
+    }
+    auto address = present(webkit_web_view_get_uri(view_.get()));
+    // Before its first page, also after a failure, the view is empty, whatever a spare view has in it.
+    const bool isOfSpare = !loads_->hasCommitted() && address == kBlankAddress && request_->url != kBlankAddress;
+    return isOfSpare ? std::nullopt : address;
+}
+
+} // namespace orken::desktop

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "linux/SignalConnection.h"
+#include "platform/NotificationCenter.h"
+#include "platform/Screens.h"
+#include "platform/Windows.h"
+
+#include <gtk/gtk.h>
+
+#include <functional>
+#include <vector>
+
+namespace orken::desktop {
+
+/// Monitors over GDK. Several changes in one turn of the main loop are one notification. Main thread only.
+class DesktopScreens final : public Screens {
+public:
+    DesktopScreens(NotificationCenter& notifications, std::function<GtkWindow*()> keyWindow)
+        : notifications_(notifications), keyWindow_(std::move(keyWindow))
+    {
+    }
+
+    ~DesktopScreens() override;
+
+    /// Begins to watch; the toolkit must have been initialised.
+    void start();
+
+    [[nodiscard]] std::optional<Rect> mainScreenFrame() const override;
+
+private:
+    void watchMonitors();
+    void changed();
+
+    NotificationCenter& notifications_;
+    std::function<GtkWindow*()> keyWindow_;
+    SignalConnection listChanged_;
+    std::vector<SignalConnection> monitorChanged_;
+    guint pending_ = 0;
+};
+
+} // namespace orken::desktop

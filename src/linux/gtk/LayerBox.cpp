@@ -1,0 +1,144 @@
+#include "linux/gtk/LayerBox.h"
+
+#include <algorithm>
+
+namespace {
+
+struct LayerBoxState {
+    std::optional<GdkRGBA> background;
+    std::function<void(orken::Size)> onResize;
+    orken::Size size;
+};
+
+struct OrkenLayerBox {
+    GtkWidget parent;
+    LayerBoxState* state;
+};
+
+struct OrkenLayerBoxClass {
+    GtkWidgetClass parent;
+};
+
+G_DEFINE_TYPE(OrkenLayerBox, orken_layer_box, GTK_TYPE_WIDGET)
+
+OrkenLayerBox* asLayerBox(gpointer instance)
+{
+    return static_cast<OrkenLayerBox*>(instance);
+}
+
+template <class Visit>
+void forEachChild(GtkWidget* widget, Visit visit)
+{
+    for (GtkWidget* child = gtk_widget_get_first_child(widget); child; child = gtk_widget_get_next_sibling(child)) {
+        visit(child);
+    }
+}
+
+void measure(GtkWidget* widget, GtkOrientation orientation, int forSize, int* minimum, int* natural,
+             int* minimumBaseline, int* naturalBaseline)
+{
+    *minimum = 0;
+    *natural = 0;
+    *minimumBaseline = -1;
+    *naturalBaseline = -1;
+    forEachChild(widget, [&](GtkWidget* child) {
+        if (!gtk_widget_should_layout(child)) {
+            return;
+        }
+        int childMinimum = 0;
+        int childNatural = 0;
+        gtk_widget_measure(child, orientation, forSize, &childMinimum, &childNatural, nullptr, nullptr);
+        *minimum = std::max(*minimum, childMinimum);
+        *natural = std::max(*natural, childNatural);
+    });
+}
+
+void allocate(GtkWidget* widget, int width, int height, int baseline)
+{
+    forEachChild(widget, [&](GtkWidget* child) {
+        if (gtk_widget_should_layout(child)) {
+            gtk_widget_allocate(child, width, height, baseline, nullptr);
+        }
+    });
+    LayerBoxState& state = *asLayerBox(widget)->state;
+    const orken::Size size{.width = static_cast<double>(width), .height = static_cast<double>(height)};
+    if (state.onResize && size != state.size) {
+        state.size = size;
+        state.onResize(size);
+    }
+}
+
+void snapshot(GtkWidget* widget, GtkSnapshot* snapshot)
+{
+    if (const auto& background = asLayerBox(widget)->state->background) {
+        const graphene_rect_t bounds{.origin = {0, 0},
+                                     .size = {static_cast<float>(gtk_widget_get_width(widget)),
+                                              static_cast<float>(gtk_widget_get_height(widget))}};
+        gtk_snapshot_append_color(snapshot, &*background, &bounds);
+    }
+    forEachChild(widget, [&](GtkWidget* child) { gtk_widget_snapshot_child(widget, child, snapshot); });
+}
+
+GtkSizeRequestMode requestMode(GtkWidget* widget)
+{
+    GtkSizeRequestMode mode = GTK_SIZE_REQUEST_CONSTANT_SIZE;
+    forEachChild(widget, [&](GtkWidget* child) {
+        if (mode == GTK_SIZE_REQUEST_CONSTANT_SIZE) {
+            mode = gtk_widget_get_request_mode(child);
+        }
+    });
+    return mode;
+}
+
+void dispose(GObject* object)
+{
+    while (GtkWidget* child = gtk_widget_get_first_child(GTK_WIDGET(object))) {
+        gtk_widget_unparent(child);
+    }
+    G_OBJECT_CLASS(orken_layer_box_parent_class)->dispose(object);
+}
+
+void finalize(GObject* object)
+{
+    delete asLayerBox(object)->state;
+    G_OBJECT_CLASS(orken_layer_box_parent_class)->finalize(object);
+}
+
+void orken_layer_box_class_init(OrkenLayerBoxClass* layerBoxClass)
+{
+    GObjectClass* objectClass = G_OBJECT_CLASS(layerBoxClass);
+    objectClass->dispose = dispose;
+    objectClass->finalize = finalize;
+    GtkWidgetClass* widgetClass = GTK_WIDGET_CLASS(layerBoxClass);
+    widgetClass->measure = measure;
+    widgetClass->size_allocate = allocate;
+    widgetClass->snapshot = snapshot;
+    widgetClass->get_request_mode = requestMode;
+}
+
+void orken_layer_box_init(OrkenLayerBox* box)
+{
+    box->state = new LayerBoxState;
+}
+
+} // namespace
+
+namespace orken::desktop {
+
+GtkWidget* layerBoxNew()
+{
+    return GTK_WIDGET(g_object_new(orken_layer_box_get_type(), nullptr));
+}
+
+void layerBoxSetBackground(GtkWidget* box, const std::optional<GdkRGBA>& color)
+{
+    asLayerBox(box)->state->background = color;
+    gtk_widget_queue_draw(box);
+}
+
+void layerBoxOnResize(GtkWidget* box, std::function<void(Size)> callback)
+{
+    asLayerBox(box)->state->onResize = std::move(callback);
+}
+
+} // namespace orken::desktop

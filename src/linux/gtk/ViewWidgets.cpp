@@ -1,0 +1,250 @@
+#include "linux/gtk/ViewWidgets.h"
+
+#include "linux/WidgetView.h"
+#include "linux/gtk/LayerBox.h"
+
+#include <cmath>
+
+namespace orken::desktop {
+
+namespace {
+
+int pixels(double points)
+{
+    return static_cast<int>(std::lround(points));
+}
+
+GdkRGBA rgba(const Color& color)
+{
+    return {.red = static_cast<float>(color.red),
+            .green = static_cast<float>(color.green),
+            .blue = static_cast<float>(color.blue),
+            .alpha = static_cast<float>(color.alpha)};
+}
+
+/// Sizes of the text roles in typographic points; the desktop's text scale comes on top.
+std::optional<int> fontPoints(Font font)
+{
+    switch (font) {
+    case Font::body:
+        return std::nullopt;
+    case Font::headline:
+        return 13;
+    case Font::caption:
+        return 10;
+    case Font::largeTitle:
+        break;
+    }
+    return 26;
+}
+
+/// The first text inside, which is what a screen reader says for a button.
+std::string firstText(const RenderNode& node)
+{
+    if (const auto* text = std::get_if<TextContent>(&node.element.content())) {
+        return text->text;
+    }
+    for (const RenderNodePtr& child : node.children) {
+        if (std::string text = firstText(*child); !text.empty()) {
+            return text;
+        }
+    }
+    return {};
+}
+
+GtkWidget* makeButton(const RenderNode& node)
+{
+    GtkWidget* button = gtk_button_new();
+    gtk_widget_add_css_class(button, "orken-plain");
+    gtk_accessible_update_property(GTK_ACCESSIBLE(button), GTK_ACCESSIBLE_PROPERTY_LABEL, firstText(node).c_str(), -1);
+    return button;
+}
+
+GtkWidget* expanding(GtkWidget* widget)
+{
+    gtk_widget_set_hexpand(widget, TRUE);
+    gtk_widget_set_vexpand(widget, TRUE);
+    return widget;
+}
+
+GtkWidget* makeNested(const RenderNode& node, const NestedContent& content, ViewEvents& events)
+{
+    GtkWidget* box = layerBoxNew();
+    if (content.readsGeometry) {
+        expanding(box);
+        layerBoxOnResize(box, [&events, id = node.id](Size size) { events.resized(id, size); });
+    }
+    return box;
+}
+
+GtkAlign alignment(GtkWidget* widget, GtkOrientation orientation)
+{
+    return gtk_widget_compute_expand(widget, orientation) ? GTK_ALIGN_FILL : GTK_ALIGN_CENTER;
+}
+
+} // namespace
+
+ViewWidgets::ViewWidgets(const RenderNode& node, ViewEvents& events) : content_(node.element.content())
+{
+    inner_ = makeContent(node, events);
+    if (node.element.modifiers().needsBox()) {
+        outer_ = GObjectPtr<GtkWidget>::share(layerBoxNew());
+        gtk_widget_insert_after(inner_, outer_.get(), nullptr);
+    } else {
+        outer_ = GObjectPtr<GtkWidget>::share(inner_);
+    }
+    apply(node.element);
+}
+
+GtkWidget* ViewWidgets::makeContent(const RenderNode& node, ViewEvents& events)
+{
+    if (std::holds_alternative<TextContent>(content_)) {
+        GtkWidget* label = gtk_label_new(nullptr);
+        gtk_label_set_justify(GTK_LABEL(label), GTK_JUSTIFY_CENTER);
+        return label;
+    }
+    if (const auto* stack = std::get_if<StackContent>(&content_)) {
+        const bool vertical = stack->axis == Axis::vertical;
+        return gtk_box_new(vertical ? GTK_ORIENTATION_VERTICAL : GTK_ORIENTATION_HORIZONTAL, pixels(stack->spacing));
+    }
+    if (std::holds_alternative<ButtonContent>(content_)) {
+        GtkWidget* button = makeButton(node);
+        connections_.push_back(SignalConnection::make<void(GtkButton*)>(
+            button, "clicked", [&events, id = node.id](GtkButton*) { events.pressed(id); }));
+        return button;
+    }
+    if (const auto* nested = std::get_if<NestedContent>(&content_)) {
+        return makeNested(node, *nested, events);
+    }
+    if (std::holds_alternative<RepresentableContent>(content_)) {
+        platformView_ = node.representation->platformView();
+        return expanding(static_cast<WidgetView*>(platformView_->native())->widget());
+    }
+    return layerBoxNew();
+}
+
+void ViewWidgets::update(const RenderNode& before, const RenderNode& after)
+{
+    content_ = after.element.content();
+    apply(after.element);
+    const bool enabledAgain = !before.element.modifiers().enabled && after.element.modifiers().enabled;
+    if (platformView_ && enabledAgain) {
+        static_cast<WidgetView*>(platformView_->native())->becameEnabled();
+    }
+}
+
+void ViewWidgets::apply(const Element& element)
+{
+    const Modifiers& modifiers = element.modifiers();
+    if (const auto* stack = std::get_if<StackContent>(&content_)) {
+        gtk_box_set_spacing(GTK_BOX(inner_), pixels(stack->spacing));
+    }
+    applyText(element);
+    GtkWidget* outer = outer_.get();
+    if (modifiers.needsBox()) {
+        applyFrame(modifiers);
+    }
+    gtk_widget_set_margin_top(outer, pixels(modifiers.padding.top));
+    gtk_widget_set_margin_bottom(outer, pixels(modifiers.padding.bottom));
+    gtk_widget_set_margin_start(outer, pixels(modifiers.padding.leading));
+    gtk_widget_set_margin_end(outer, pixels(modifiers.padding.trailing));
+    gtk_widget_set_opacity(outer, modifiers.opacity);
+    // What cannot be seen takes no clicks.
+    gtk_widget_set_can_target(outer, modifiers.opacity > 0);
+    gtk_widget_set_sensitive(outer, modifiers.enabled);
+}
+
+void ViewWidgets::applyText(const Element& element)
+{
+    const auto* text = std::get_if<TextContent>(&content_);
+    if (!text) {
+        return;
+    }
+    const GText valid(g_utf8_make_valid(text->text.data(), static_cast<gssize>(text->text.size())));
+    gtk_label_set_text(GTK_LABEL(inner_), valid.get());
+
+    PangoAttrList* attributes = pango_attr_list_new();
+    const Modifiers& modifiers = element.modifiers();
+    if (const auto points = fontPoints(modifiers.font)) {
+        pango_attr_list_insert(attributes, pango_attr_size_new(*points * PANGO_SCALE));
+    }
+    if (modifiers.font == Font::headline) {
+        pango_attr_list_insert(attributes, pango_attr_weight_new(PANGO_WEIGHT_BOLD));
+    }
+    if (modifiers.foreground) {
+        const auto channel = [](double value) { return static_cast<guint16>(std::lround(value * 65535)); };
+        const Color& color = *modifiers.foreground;
+        pango_attr_list_insert(attributes, pango_attr_foreground_new(channel(color.red), channel(color.green),
+                                                                     channel(color.blue)));
+        pango_attr_list_insert(attributes, pango_attr_foreground_alpha_new(channel(color.alpha)));
+    }
+    gtk_label_set_attributes(GTK_LABEL(inner_), attributes);
+    pango_attr_list_unref(attributes);
+}
+
+void ViewWidgets::applyFrame(const Modifiers& modifiers)
+{
+    GtkWidget* outer = outer_.get();
+    layerBoxSetBackground(outer, modifiers.background ? std::optional(rgba(*modifiers.background)) : std::nullopt);
+    gtk_widget_set_margin_top(inner_, pixels(modifiers.innerPadding.top));
+    gtk_widget_set_margin_bottom(inner_, pixels(modifiers.innerPadding.bottom));
+    gtk_widget_set_margin_start(inner_, pixels(modifiers.innerPadding.leading));
+    gtk_widget_set_margin_end(inner_, pixels(modifiers.innerPadding.trailing));
+
+    const Frame frame = modifiers.frame.value_or(Frame{});
+    // The smallest size also of a fixed frame: a text that the desktop's scale makes larger is not cut.
+    gtk_widget_set_size_request(outer, pixels(frame.width.value_or(frame.minWidth.value_or(-1))),
+                                pixels(frame.height.value_or(frame.minHeight.value_or(-1))));
+    const auto setExpand = [&](bool fixed, auto set, auto reset) {
+        if (fixed || frame.fill) {
+            set(outer, frame.fill ? TRUE : FALSE);
+        } else {
+            reset(outer, FALSE);
+        }
+    };
+    setExpand(frame.width.has_value(), gtk_widget_set_hexpand, gtk_widget_set_hexpand_set);
+    setExpand(frame.height.has_value(), gtk_widget_set_vexpand, gtk_widget_set_vexpand_set);
+}
+
+void ViewWidgets::insertChild(ViewWidgets& child, std::size_t index)
+{
+    if (std::holds_alternative<ButtonContent>(content_)) {
+        gtk_button_set_child(GTK_BUTTON(inner_), child.outer());
+        return;
+    }
+    if (std::holds_alternative<SpacerContent>(child.content_)) {
+        const auto* stack = std::get_if<StackContent>(&content_);
+        const bool vertical = stack && stack->axis == Axis::vertical;
+        gtk_widget_set_hexpand(child.outer(), !vertical);
+        gtk_widget_set_vexpand(child.outer(), vertical);
+    }
+    insertWidget(inner_, child.outer(), index);
+}
+
+void ViewWidgets::removeChild(ViewWidgets& child)
+{
+    if (std::holds_alternative<ButtonContent>(content_)) {
+        gtk_button_set_child(GTK_BUTTON(inner_), nullptr);
+    } else {
+        gtk_widget_unparent(child.outer());
+    }
+}
+
+void insertWidget(GtkWidget* container, GtkWidget* child, std::size_t index)
+{
+    GtkWidget* previous = nullptr;
+    for (std::size_t i = 0; i < index; ++i) {
+        previous = previous ? gtk_widget_get_next_sibling(previous) : gtk_widget_get_first_child(container);
+    }
+    gtk_widget_insert_after(child, container, previous);
+}
+
+void alignUpwards(GtkWidget* widget)
+{
+    for (; widget && !GTK_IS_WINDOW(widget); widget = gtk_widget_get_parent(widget)) {
+        gtk_widget_set_halign(widget, alignment(widget, GTK_ORIENTATION_HORIZONTAL));
+        gtk_widget_set_valign(widget, alignment(widget, GTK_ORIENTATION_VERTICAL));
+    }
+}
+
+} // namespace orken::desktop

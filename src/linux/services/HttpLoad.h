@@ -1,0 +1,25 @@
+#pragma once
+
+#include "linux/GObjectPtr.h"
+#include "linux/services/HttpOptions.h"
+#include "platform/UrlSession.h"
+
+#include <libsoup/soup.h>
+
+namespace orken::desktop {
+
+struct HttpAnswer {
+    DataTaskResult result;
+    /// `charset` parameter of the content type as the server wrote it.
+    std::optional<std::string> charset;
+};
+
+/// A session for the thread and the thread-default context that it is made in.
+[[nodiscard]] GObjectPtr<SoupSession> makeHttpSession(const HttpOptions& options);
+
+/// One GET in the thread-default context. The completion runs exactly once on this thread: at once when `url` is not an
+/// http or https address, otherwise in a turn of the context. Cancelled, it is an error soon.
+void loadHttp(SoupSession* session, const std::string& url, std::size_t maximumBodyBytes, GCancellable* cancellable,
+              std::function<void(HttpAnswer)> completion);
+
+} // namespace orken::desktop

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/Files.h"
+
+namespace orken::desktop {
+
+/// The file system of this machine. Errors carry the domain "posix" and the value of `errno` as their code.
+class LocalFiles final : public Files {
+public:
+    [[nodiscard]] std::vector<std::filesystem::path> cachesDirectories() const override;
+    [[nodiscard]] Outcome<std::vector<std::string>>
+    contentsOfDirectory(const std::filesystem::path& directory) const override;
+    [[nodiscard]] Outcome<void> removeItem(const std::filesystem::path& item) override;
+};
+
+} // namespace orken::desktop

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "platform/NavigationDelegate.h"
+#include "platform/Seconds.h"
+#include "view/Representable.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace orken {
+
+enum class CachePolicy { useProtocolCachePolicy };
+
+struct UrlRequest {
+    std::string url;
+    CachePolicy cachePolicy = CachePolicy::useProtocolCachePolicy;
+    /// The load fails when the server has not begun to answer by then.
+    Seconds timeout{60};
+};
+
+enum class ScriptInjectionTime { documentStart, documentEnd };
+
+struct UserScript {
+    std::string source;
+    ScriptInjectionTime injectionTime = ScriptInjectionTime::documentEnd;
+    bool forMainFrameOnly = true;
+};
+
+/// Settings of one browser view. What is set after a load call in the same turn of the main loop still holds for that
+/// load. Main thread only.
+class BrowserConfiguration {
+public:
+    BrowserConfiguration() = default;
+    BrowserConfiguration(const BrowserConfiguration&) = delete;
+    BrowserConfiguration& operator=(const BrowserConfiguration&) = delete;
+    virtual ~BrowserConfiguration() = default;
+
+    virtual void setCustomUserAgent(const std::string& userAgent) = 0;
+    virtual void setAllowsLinkPreview(bool allows) = 0;
+    virtual void setAllowsContentJavaScript(bool allows) = 0;
+    virtual void setDeveloperExtrasEnabled(bool enabled) = 0;
+    virtual void addUserScript(const UserScript& script) = 0;
+};
+
+/// The web engine's view. Main thread only.
+class BrowserView : public PlatformView {
+public:
+    /// Not kept alive by the view; without one every navigation is allowed and every challenge cancelled.
+    virtual void setNavigationDelegate(std::weak_ptr<NavigationDelegate> delegate) = 0;
+
+    /// Nothing is loaded for an address that cannot be parsed.
+    virtual void load(const UrlRequest& request) = 0;
+
+    [[nodiscard]] virtual BrowserConfiguration& configuration() = 0;
+
+    /// Title of the page; absent when it has none.
+    [[nodiscard]] virtual std::optional<std::string> title() const = 0;
+
+    /// Absolute address of the page, from the load call on that of the requested one; absent before the first load and
+    /// after a failed first one.
+    [[nodiscard]] virtual std::optional<std::string> url() const = 0;
+};
+
+class BrowserViews {
+public:
+    BrowserViews() = default;
+    BrowserViews(const BrowserViews&) = delete;
+    BrowserViews& operator=(const BrowserViews&) = delete;
+    virtual ~BrowserViews() = default;
+
+    /// A new view without a page; never null. Main thread only.
+    [[nodiscard]] virtual std::shared_ptr<BrowserView> make() = 0;
+};
+
+} // namespace orken

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "foundation/Outcome.h"
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace orken {
+
+/// The machine's files. Main thread only.
+class Files {
+public:
+    Files() = default;
+    Files(const Files&) = delete;
+    Files& operator=(const Files&) = delete;
+    virtual ~Files() = default;
+
+    /// The user's caches directories, absolute; empty when the desktop names none.
+    [[nodiscard]] virtual std::vector<std::filesystem::path> cachesDirectories() const = 0;
+
+    /// Names of the entries, without "." and "..", in the file system's order; not recursive.
+    [[nodiscard]] virtual Outcome<std::vector<std::string>>
+    contentsOfDirectory(const std::filesystem::path& directory) const = 0;
+
+    /// Removes a link itself, a folder with all its contents. The first error ends it, and what is gone is gone. A
+    /// missing item is an error with the code `ENOENT`.
+    [[nodiscard]] virtual Outcome<void> removeItem(const std::filesystem::path& item) = 0;
+};
+
+} // namespace orken

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "foundation/PlatformError.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace orken {
+
+class BrowserView;
+
+enum class NavigationPolicy { cancel, allow };
+
+struct NavigationAction {
+    /// Absolute text of the requested address.
+    std::optional<std::string> requestUrl;
+};
+
+/// The certificate chain that a server has shown.
+class ServerTrust {
+public:
+    ServerTrust() = default;
+    ServerTrust(const ServerTrust&) = delete;
+    ServerTrust& operator=(const ServerTrust&) = delete;
+    virtual ~ServerTrust() = default;
+
+    /// Accepts what the chain fails in now, as if it did not.
+    virtual void setOwnExceptions() = 0;
+};
+
+struct AuthenticationChallenge {
+    /// Null for every challenge that is not about a server's certificate.
+    std::shared_ptr<ServerTrust> serverTrust;
+};
+
+enum class ChallengeDisposition { useCredential, cancelAuthenticationChallenge };
+
+/// What a browser view asks and reports; all of it on the main thread. Each decision handler is called exactly once,
+/// now or later, on the main thread.
+class NavigationDelegate {
+public:
+    NavigationDelegate() = default;
+    NavigationDelegate(const NavigationDelegate&) = delete;
+    NavigationDelegate& operator=(const NavigationDelegate&) = delete;
+    virtual ~NavigationDelegate() = default;
+
+    virtual void didFailNavigation(BrowserView& view, const PlatformError& error) = 0;
+    virtual void didFailProvisionalNavigation(BrowserView& view, const PlatformError& error) = 0;
+    /// A page has finished; a failed load is never reported here. The view's title and address are the page's.
+    virtual void didFinishNavigation(BrowserView& view) = 0;
+    virtual void didReceiveAuthenticationChallenge(BrowserView& view, const AuthenticationChallenge& challenge,
+                                                   std::function<void(ChallengeDisposition)> decide) = 0;
+    /// Asked for the main frame and for sub-frames.
+    virtual void decidePolicyForNavigationAction(BrowserView& view, const NavigationAction& action,
+                                                 std::function<void(NavigationPolicy)> decide) = 0;
+};
+
+} // namespace orken

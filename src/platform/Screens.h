@@ -1,0 +1,21 @@
+#pragma once
+
+#include "view/Geometry.h"
+
+#include <optional>
+
+namespace orken {
+
+/// Main thread only.
+class Screens {
+public:
+    Screens() = default;
+    Screens(const Screens&) = delete;
+    Screens& operator=(const Screens&) = delete;
+    virtual ~Screens() = default;
+
+    /// The screen with the key window, else the first one, in points; absent when there is none.
+    [[nodiscard]] virtual std::optional<Rect> mainScreenFrame() const = 0;
+};
+
+} // namespace orken

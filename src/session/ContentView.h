@@ -1,0 +1,50 @@
+#pragma once
+
+#include "crypto/DeviceIdentity.h"
+#include "platform/Console.h"
+#include "platform/MainQueue.h"
+#include "platform/NotificationCenter.h"
+#include "session/WindowControl.h"
+#include "view/View.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace orken {
+
+/// Root of the session window: finds the public address, then shows the session screen for the provider's login page.
+/// Without an address the window stays empty for good. Main thread only.
+class ContentView final : public View {
+public:
+    struct Ports {
+        const DeviceIdentity& identity;
+        Console& console;
+        MainQueue& mainQueue;
+        NotificationCenter& notifications;
+        WindowControl& windowControl;
+        std::function<std::unique_ptr<View>(const std::string& link)> makeSessionScreen;
+    };
+
+    ContentView(std::string kLoginHost, Ports ports)
+        : kLoginHost_(std::move(kLoginHost)), ports_(std::move(ports)),
+          ipAddress_(makeState(std::optional<std::string>()))
+    {
+    }
+
+    [[nodiscard]] Element body() override;
+
+    /// Reads the serial number anew on each call and inserts it as it is.
+    [[nodiscard]] std::string makeLoginURL() const;
+
+private:
+    void fetchAddress();
+    void sessionScreenAppeared();
+
+    std::string kLoginHost_;
+    Ports ports_;
+    State<std::optional<std::string>> ipAddress_;
+};
+
+} // namespace orken

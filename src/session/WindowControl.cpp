@@ -1,0 +1,47 @@
+#include "session/WindowControl.h"
+
+namespace orken {
+
+void WindowControl::enterFullScreen(State<bool> isFullScreen)
+{
+    const auto windows = windows_.all();
+    if (windows.empty() || (windows.front()->styleMask() & windowStyle::kFullScreen) != 0) {
+        return;
+    }
+    windows.front()->toggleFullScreen();
+    isFullScreen.set(true);
+}
+
+void WindowControl::toggleFullScreen()
+{
+    const auto windows = windows_.all();
+    if (!windows.empty()) {
+        windows.back()->toggleFullScreen();
+    }
+}
+
+void WindowControl::closeOtherWindows()
+{
+    const auto windows = windows_.all();
+    for (const auto& window : windows) {
+        if (window != windows.front() && window->isVisible()) {
+            window->close();
+        }
+    }
+}
+
+void WindowControl::observeFullScreenChanges(const State<bool>& isFullScreen)
+{
+    // The observers stay for good, the screen does not: they must not keep its state alive.
+    const WeakState<bool> state = isFullScreen;
+    notifications_.addObserver(NotificationName::windowWillExitFullScreen, [state] { state.set(false); });
+    notifications_.addObserver(NotificationName::windowDidEnterFullScreen, [state] { state.set(true); });
+    console_.printLine("FullScreen observeFullScreenChanges ");
+}
+
+void WindowControl::installKeyMonitor()
+{
+    // The desktops offer no key monitor yet, so there is nothing to install.
+}
+
+} // namespace orken

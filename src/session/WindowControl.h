@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/Console.h"
+#include "platform/NotificationCenter.h"
+#include "platform/Windows.h"
+#include "view/State.h"
+
+namespace orken {
+
+/// What keeps the session in full screen with no other window in view. First and last are positions in the window list
+/// at the moment of the call. Main thread only.
+class WindowControl {
+public:
+    WindowControl(Windows& windows, NotificationCenter& notifications, Console& console)
+        : windows_(windows), notifications_(notifications), console_(console)
+    {
+    }
+
+    /// Brings the first window into full screen unless it is there, and then sets `isFullScreen` at once.
+    void enterFullScreen(State<bool> isFullScreen);
+
+    /// Toggles the last window whatever its state is.
+    void toggleFullScreen();
+
+    /// Closes every visible window but the first; the first one counts as first also while it is hidden.
+    void closeOtherWindows();
+
+    /// From here to the end of the process the cell follows every window's changes. Each call adds two observers.
+    void observeFullScreenChanges(const State<bool>& isFullScreen);
+
+    /// Takes the Escape key away from every window.
+    void installKeyMonitor();
+
+private:
+    Windows& windows_;
+    NotificationCenter& notifications_;
+    Console& console_;
+};
+
+} // namespace orken

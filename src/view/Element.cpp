@@ -1,0 +1,236 @@
+#include "view/Element.h"
+
+#include "view/View.h"
+
+namespace orken {
+
+namespace {
+
+/// Its content is made anew for each size; the builder is replaced when the view around it is redrawn.
+class GeometryView final : public View {
+public:
+    using Builder = std::function<Element(Size)>;
+
+    explicit GeometryView(Builder builder) : size_(makeState(Size{})), builder_(std::move(builder)) {}
+
+    [[nodiscard]] Element body() override { return builder_(size_.get()); }
+
+    void resized(Size size) override { size_.set(size); }
+
+    void setBuilder(Builder builder) { builder_ = std::move(builder); }
+
+private:
+    State<Size> size_;
+    Builder builder_;
+};
+
+Insets sum(const Insets& a, const Insets& b)
+{
+    return {.top = a.top + b.top,
+            .leading = a.leading + b.leading,
+            .bottom = a.bottom + b.bottom,
+            .trailing = a.trailing + b.trailing};
+}
+
+} // namespace
+
+void Element::wrap()
+{
+    Element inner = std::move(*this);
+    *this = Element(LayersContent{});
+    // The place belongs to the outermost element.
+    std::swap(key_, inner.key_);
+    children_.push_back(std::move(inner));
+}
+
+void Element::moveSpaceInside()
+{
+    const bool inPlace = !modifiers_.frame && !modifiers_.background;
+    if (inPlace) {
+        modifiers_.innerPadding = sum(modifiers_.innerPadding, modifiers_.padding);
+        modifiers_.padding = {};
+    } else if (modifiers_.padding != Insets{}) {
+        wrap();
+    }
+}
+
+void Element::addPadding(const Insets& insets)
+{
+    modifiers_.padding = sum(modifiers_.padding, insets);
+}
+
+template <class Change>
+void Element::changeTexts(const Change& change)
+{
+    change(modifiers_);
+    for (Element& child : children_) {
+        child.changeTexts(change);
+    }
+}
+
+Element Element::padding(double length) &&
+{
+    addPadding({.top = length, .leading = length, .bottom = length, .trailing = length});
+    return std::move(*this);
+}
+
+Element Element::padding(Edge edge, double length) &&
+{
+    addPadding({.top = edge == Edge::top ? length : 0,
+                .leading = edge == Edge::leading ? length : 0,
+                .bottom = edge == Edge::bottom ? length : 0,
+                .trailing = edge == Edge::trailing ? length : 0});
+    return std::move(*this);
+}
+
+Element Element::frame(Frame frame) &&
+{
+    moveSpaceInside();
+    if (modifiers_.frame || modifiers_.background) {
+        wrap();
+    }
+    modifiers_.frame = frame;
+    return std::move(*this);
+}
+
+Element Element::background(Color color) &&
+{
+    moveSpaceInside();
+    if (modifiers_.background) {
+        wrap();
+    }
+    modifiers_.background = color;
+    return std::move(*this);
+}
+
+Element Element::font(Font font) &&
+{
+    changeTexts([font](Modifiers& modifiers) {
+        if (modifiers.font == Font::body) {
+            modifiers.font = font;
+        }
+    });
+    return std::move(*this);
+}
+
+Element Element::foreground(Color color) &&
+{
+    changeTexts([color](Modifiers& modifiers) {
+        if (!modifiers.foreground) {
+            modifiers.foreground = color;
+        }
+    });
+    return std::move(*this);
+}
+
+Element Element::opacity(double opacity) &&
+{
+    modifiers_.opacity *= opacity;
+    return std::move(*this);
+}
+
+Element Element::disabled(bool disabled) &&
+{
+    modifiers_.enabled = modifiers_.enabled && !disabled;
+    return std::move(*this);
+}
+
+Element Element::key(std::string key) &&
+{
+    key_ = std::move(key);
+    return std::move(*this);
+}
+
+Element Element::onAppear(std::function<void()> action) &&
+{
+    handlers_.onAppear.push_back(std::move(action));
+    return std::move(*this);
+}
+
+Element Element::alert(State<bool> isPresented, AlertDescription description) &&
+{
+    if (isPresented.get()) {
+        AlertContent content{.title = description.title, .message = description.message, .buttons = {}};
+        for (const AlertButton& button : description.buttons) {
+            content.buttons.push_back({.title = button.title, .role = button.role});
+        }
+        modifiers_.alert = std::move(content);
+    }
+    handlers_.onAlertAnswer = [isPresented, buttons = std::move(description.buttons)](std::size_t button) mutable {
+        isPresented.set(false);
+        if (button < buttons.size() && buttons[button].action) {
+            buttons[button].action();
+        }
+    };
+    return std::move(*this);
+}
+
+bool sameIdentity(const Element& left, const Element& right)
+{
+    if (left.identity() != right.identity() || left.content().index() != right.content().index() ||
+        left.modifiers().needsBox() != right.modifiers().needsBox()) {
+        return false;
+    }
+    const bool typed = std::holds_alternative<NestedContent>(left.content()) ||
+                       std::holds_alternative<RepresentableContent>(left.content());
+    return !typed || left.content() == right.content();
+}
+
+bool sameAppearance(const Element& left, const Element& right)
+{
+    return left.content() == right.content() && left.modifiers() == right.modifiers();
+}
+
+Element Text(std::string text)
+{
+    return {TextContent{.text = std::move(text)}};
+}
+
+Element VStack(std::vector<Element> children, double spacing)
+{
+    return {StackContent{.axis = Axis::vertical, .spacing = spacing}, std::move(children)};
+}
+
+Element HStack(std::vector<Element> children, double spacing)
+{
+    return {StackContent{.axis = Axis::horizontal, .spacing = spacing}, std::move(children)};
+}
+
+Element ZStack(std::vector<Element> children)
+{
+    return {LayersContent{}, std::move(children)};
+}
+
+Element Spacer()
+{
+    return {SpacerContent{}};
+}
+
+Element Button(Element label, std::function<void()> action)
+{
+    std::vector<Element> children;
+    children.push_back(std::move(label));
+    Element button(ButtonContent{}, std::move(children));
+    button.handlers().action = std::move(action);
+    return button;
+}
+
+Element Button(std::string title, std::function<void()> action)
+{
+    return Button(Text(std::move(title)), std::move(action));
+}
+
+Element When(bool condition, const std::function<Element()>& make)
+{
+    return condition ? make() : Element();
+}
+
+Element GeometryReader(std::function<Element(Size)> content)
+{
+    Element element(NestedContent{.type = typeid(GeometryView), .readsGeometry = true});
+    element.handlers().makeView = [content] { return std::make_unique<GeometryView>(content); };
+    element.handlers().updateView = [content](View& view) { static_cast<GeometryView&>(view).setBuilder(content); };
+    return element;
+}
+
+} // namespace orken

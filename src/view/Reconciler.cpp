@@ -1,0 +1,129 @@
+#include "view/Reconciler.h"
+
+#include <algorithm>
+#include <set>
+
+namespace orken {
+
+namespace {
+
+/// What stood at the place of `element`: the child with its key, or without a key the one at the same position.
+RenderNodePtr predecessor(const Element& element, std::size_t position, const std::vector<RenderNodePtr>& old)
+{
+    if (!element.identity()) {
+        const bool same = position < old.size() && sameIdentity(element, old[position]->element);
+        return same ? old[position] : nullptr;
+    }
+    const auto found = std::find_if(old.begin(), old.end(),
+                                    [&](const RenderNodePtr& node) { return sameIdentity(element, node->element); });
+    return found == old.end() ? nullptr : *found;
+}
+
+} // namespace
+
+RenderNodePtr Reconciler::place(Element element, const RenderNodePtr& old)
+{
+    auto node = std::make_shared<RenderNode>();
+    auto children = element.takeChildren();
+    node->element = std::move(element);
+    const Handlers& handlers = node->element.handlers();
+    if (old) {
+        node->id = old->id;
+        node->view = old->view;
+        node->representation = old->representation;
+        node->receptions = old->receptions;
+    } else {
+        node->id = ++lastId_;
+    }
+
+    if (handlers.makeView) {
+        if (!node->view) {
+            node->view = handlers.makeView();
+            node->view->invalidation()->connect(onMark_);
+        } else if (handlers.updateView) {
+            handlers.updateView(*node->view);
+        }
+        node->children = placeBody(*node->view, old.get());
+    } else {
+        if (handlers.makeRepresentation) {
+            if (!node->representation) {
+                node->representation = handlers.makeRepresentation();
+            }
+            redrawn_.push_back(node->representation);
+        }
+        node->children = placeChildren(std::move(children), old.get());
+    }
+    receive(*node);
+    return node;
+}
+
+std::vector<RenderNodePtr> Reconciler::placeBody(View& view, const RenderNode* old)
+{
+    // Cleared first: a body that changes its own state asks for another redraw.
+    view.invalidation()->clear();
+    std::vector<Element> body;
+    body.push_back(view.body());
+    return placeChildren(std::move(body), old);
+}
+
+std::vector<RenderNodePtr> Reconciler::placeChildren(std::vector<Element> elements, const RenderNode* old)
+{
+    std::vector<RenderNodePtr> nodes;
+    nodes.reserve(elements.size());
+    std::set<NodeId> taken;
+    for (std::size_t position = 0; position < elements.size(); ++position) {
+        RenderNodePtr before = old ? predecessor(elements[position], position, old->children) : nullptr;
+        if (before && !taken.insert(before->id).second) {
+            before = nullptr; // two siblings with one key: the second one is new
+        }
+        nodes.push_back(place(std::move(elements[position]), before));
+    }
+    return nodes;
+}
+
+void Reconciler::receive(RenderNode& node)
+{
+    const auto& wanted = node.element.handlers().receivers;
+    if (wanted.empty() && !node.receptions) {
+        return;
+    }
+    if (!node.receptions) {
+        node.receptions = std::make_shared<std::vector<RenderNode::Reception>>();
+    }
+    auto& present = *node.receptions;
+    present.resize(wanted.size());
+    for (std::size_t i = 0; i < wanted.size(); ++i) {
+        if (present[i].slot && present[i].source == wanted[i].source) {
+            *present[i].slot = wanted[i].deliver;
+            continue;
+        }
+        auto slot = std::make_shared<Receiver::Deliver>(wanted[i].deliver);
+        present[i] = {.source = wanted[i].source, .slot = slot, .subscription = wanted[i].subscribe(slot)};
+    }
+}
+
+RenderNodePtr Reconciler::refresh(const RenderNodePtr& node)
+{
+    std::vector<RenderNodePtr> children;
+    if (node->view && node->view->invalidation()->isDirty()) {
+        children = placeBody(*node->view, node.get());
+    } else {
+        children.reserve(node->children.size());
+        for (const RenderNodePtr& child : node->children) {
+            children.push_back(refresh(child));
+        }
+        if (children == node->children) {
+            return node;
+        }
+    }
+    auto refreshed = std::make_shared<RenderNode>();
+    refreshed->id = node->id;
+    refreshed->element = node->element;
+    refreshed->children = std::move(children);
+    refreshed->view = node->view;
+    refreshed->representation = node->representation;
+    refreshed->receptions = node->receptions;
+    return refreshed;
+}
+
+} // namespace orken

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <memory>
+#include <type_traits>
+#include <utility>
+
+namespace orken {
+
+/// A native view of a platform, opaque to everything above the ports. The browser view and the animation view derive
+/// from it; a platform's view host knows how to put its own ones on the screen.
+class PlatformView {
+public:
+    PlatformView() = default;
+    PlatformView(const PlatformView&) = delete;
+    PlatformView& operator=(const PlatformView&) = delete;
+    virtual ~PlatformView() = default;
+
+    /// The platform's own object behind the view; only the platform that made the view knows its type.
+    [[nodiscard]] virtual void* native() = 0;
+};
+
+/// What lives as long as a representable's place in the tree.
+template <class Coordinator>
+struct RepresentableContext {
+    std::shared_ptr<Coordinator> coordinator;
+};
+
+/// A representable at its place in the tree: made once, updated on every redraw of the view that holds it.
+class Representation {
+public:
+    Representation() = default;
+    Representation(const Representation&) = delete;
+    Representation& operator=(const Representation&) = delete;
+    virtual ~Representation() = default;
+
+    /// The native view, the same object for the whole life of this representation.
+    [[nodiscard]] virtual const std::shared_ptr<PlatformView>& platformView() const = 0;
+    virtual void update() = 0;
+};
+
+/// Bridges a representable type with `makeCoordinator()`, `makeNSView(context)` and `updateNSView(view, context)`.
+/// The coordinator is made first; it and the representable live until the place in the tree is given up.
+template <class Representable>
+class BridgedRepresentation final : public Representation {
+    using CoordinatorPointer = decltype(std::declval<Representable&>().makeCoordinator());
+    using Coordinator = typename CoordinatorPointer::element_type;
+    using Context = RepresentableContext<Coordinator>;
+    using ViewPointer = decltype(std::declval<Representable&>().makeNSView(std::declval<const Context&>()));
+    static_assert(std::is_base_of_v<PlatformView, typename ViewPointer::element_type>);
+
+public:
+    explicit BridgedRepresentation(std::unique_ptr<Representable> representable)
+        : representable_(std::move(representable)), context_{.coordinator = representable_->makeCoordinator()},
+          view_(representable_->makeNSView(context_)), platformView_(view_)
+    {
+    }
+
+    [[nodiscard]] const std::shared_ptr<PlatformView>& platformView() const override { return platformView_; }
+
+    void update() override { representable_->updateNSView(*view_, context_); }
+
+private:
+    std::unique_ptr<Representable> representable_;
+    Context context_;
+    ViewPointer view_;
+    std::shared_ptr<PlatformView> platformView_;
+};
+
+} // namespace orken
