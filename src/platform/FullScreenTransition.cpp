@@ -20,7 +20,7 @@ std::optional<FullScreenChange> FullScreenTransition::toggle()
 
 std::vector<FullScreenChange> FullScreenTransition::reported(bool fullScreen)
 {
-    if (fullScreen == isFullScreen()) {
+    if (fullScreen == fillsScreen()) {
         return {};
     }
     std::vector<FullScreenChange> changes;

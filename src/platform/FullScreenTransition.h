@@ -11,8 +11,8 @@ enum class FullScreenChange { willEnter, didEnter, willExit, didExit };
 /// tell the notification centre. Main thread only.
 class FullScreenTransition {
 public:
-    /// The state has fully changed to full screen.
-    [[nodiscard]] bool isFullScreen() const { return phase_ == Phase::fullScreen || phase_ == Phase::leaving; }
+    /// The state has fully changed to full screen and is not on its way back.
+    [[nodiscard]] bool isFullScreen() const { return phase_ == Phase::fullScreen; }
 
     [[nodiscard]] bool isUnderWay() const { return phase_ == Phase::entering || phase_ == Phase::leaving; }
 
@@ -28,6 +28,10 @@ public:
 
 private:
     enum class Phase { windowed, entering, fullScreen, leaving };
+
+    /// What the desktop reported last.
+    [[nodiscard]] bool fillsScreen() const { return phase_ == Phase::fullScreen || phase_ == Phase::leaving; }
+
     Phase phase_ = Phase::windowed;
 };
 

@@ -90,6 +90,16 @@ GtkSizeRequestMode requestMode(GtkWidget* widget)
     return mode;
 }
 
+void computeExpand(GtkWidget* widget, gboolean* horizontally, gboolean* vertically)
+{
+    *horizontally = FALSE;
+    *vertically = FALSE;
+    forEachChild(widget, [&](GtkWidget* child) {
+        *horizontally = *horizontally || gtk_widget_compute_expand(child, GTK_ORIENTATION_HORIZONTAL);
+        *vertically = *vertically || gtk_widget_compute_expand(child, GTK_ORIENTATION_VERTICAL);
+    });
+}
+
 void dispose(GObject* object)
 {
     while (GtkWidget* child = gtk_widget_get_first_child(GTK_WIDGET(object))) {
@@ -114,6 +124,7 @@ void orken_layer_box_class_init(OrkenLayerBoxClass* layerBoxClass)
     widgetClass->size_allocate = allocate;
     widgetClass->snapshot = snapshot;
     widgetClass->get_request_mode = requestMode;
+    widgetClass->compute_expand = computeExpand;
 }
 
 void orken_layer_box_init(OrkenLayerBox* box)

@@ -6,6 +6,10 @@
 
 #include <libsoup/soup.h>
 
+#include <functional>
+#include <optional>
+#include <string>
+
 namespace orken::desktop {
 
 struct HttpAnswer {

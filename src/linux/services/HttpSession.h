@@ -4,6 +4,7 @@
 #include "platform/CookieStorage.h"
 #include "platform/UrlSession.h"
 
+#include <memory>
 #include <mutex>
 
 namespace orken::desktop {

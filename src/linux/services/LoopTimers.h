@@ -3,6 +3,9 @@
 #include "platform/AlertStack.h"
 #include "platform/Timers.h"
 
+#include <memory>
+#include <vector>
+
 namespace orken::desktop {
 
 class LoopTimer;
