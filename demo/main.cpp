@@ -20,8 +20,12 @@ struct Provider {
 /// What the demo provider wrote when it was ready.
 std::optional<Provider> readProvider(const char* readyFile)
 {
+    std::ifstream file(readyFile);
+    if (!file) {
+        std::cerr << "orken-demo: " << readyFile << " cannot be read\n";
+        return std::nullopt;
+    }
     try {
-        std::ifstream file(readyFile);
         const auto ready = nlohmann::json::parse(file);
         const std::string host = ready.at("host").get<std::string>();
         const std::string main = host + ":" + std::to_string(ready.at("port").get<int>());

@@ -3,6 +3,7 @@
 #include <csignal>
 #include <filesystem>
 #include <glib.h>
+#include <string>
 
 namespace orken::desktop {
 
@@ -22,6 +23,12 @@ bool hasRenderNode()
 /// Settings of the libraries below, unless the user has made them. They are read when the toolkit and the engine start.
 void prepareProcess(bool renderNode)
 {
+    const char* home = g_getenv("HOME");
+    if (home && !g_file_test(home, G_FILE_TEST_IS_DIR)) {
+        // The engine's sandbox does not start with it, and takes the client along; the user database has another.
+        reportDiagnostic(std::string("orken: HOME is not a folder and is passed over: ") + home);
+        g_unsetenv("HOME");
+    }
     // A pipe that nobody reads any more must not end an exam.
     std::signal(SIGPIPE, SIG_IGN);
     if (!renderNode) {
@@ -51,6 +58,7 @@ Desktop::Desktop(const DesktopSettings& settings)
                            timers.stop();
                            alerts.stop();
                            engine.stop();
+                           urlSession.stop();
                        },
                    .isCleaningUp = [this] { return engine.isRemovingData(); },
                    .isNested = [this] { return alertStack_.depth() > 0; }})

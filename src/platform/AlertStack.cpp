@@ -35,7 +35,7 @@ std::optional<int> AlertStack::result(Id alert) const
     return alerts_.back().result;
 }
 
-void AlertStack::pop(Id alert)
+void AlertStack::pop([[maybe_unused]] Id alert)
 {
     assert(!alerts_.empty() && alerts_.back().id == alert);
     alerts_.pop_back();

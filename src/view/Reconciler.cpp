@@ -7,15 +7,18 @@ namespace orken {
 
 namespace {
 
-/// What stood at the place of `element`: the child with its key, or without a key the one at the same position.
-RenderNodePtr predecessor(const Element& element, std::size_t position, const std::vector<RenderNodePtr>& old)
+/// What stood at the place of `element`: the first child with its key that no sibling has taken, or without a key the
+/// one at the same position.
+RenderNodePtr predecessor(const Element& element, std::size_t position, const std::vector<RenderNodePtr>& old,
+                          const std::set<NodeId>& taken)
 {
     if (!element.identity()) {
         const bool same = position < old.size() && sameIdentity(element, old[position]->element);
         return same ? old[position] : nullptr;
     }
-    const auto found = std::find_if(old.begin(), old.end(),
-                                    [&](const RenderNodePtr& node) { return sameIdentity(element, node->element); });
+    const auto found = std::find_if(old.begin(), old.end(), [&](const RenderNodePtr& node) {
+        return taken.count(node->id) == 0 && sameIdentity(element, node->element);
+    });
     return found == old.end() ? nullptr : *found;
 }
 
@@ -72,9 +75,9 @@ std::vector<RenderNodePtr> Reconciler::placeChildren(std::vector<Element> elemen
     nodes.reserve(elements.size());
     std::set<NodeId> taken;
     for (std::size_t position = 0; position < elements.size(); ++position) {
-        RenderNodePtr before = old ? predecessor(elements[position], position, old->children) : nullptr;
-        if (before && !taken.insert(before->id).second) {
-            before = nullptr; // two siblings with one key: the second one is new
+        const auto before = old ? predecessor(elements[position], position, old->children, taken) : nullptr;
+        if (before) {
+            taken.insert(before->id);
         }
         nodes.push_back(place(std::move(elements[position]), before));
     }

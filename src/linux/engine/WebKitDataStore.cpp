@@ -1,5 +1,6 @@
 #include "linux/engine/WebKitDataStore.h"
 
+#include "linux/GObjectPtr.h"
 #include "linux/engine/AsyncReply.h"
 
 #include <utility>
@@ -62,15 +63,21 @@ void WebKitDataStore::removeData(WebsiteDataTypes types, const std::vector<Websi
                                  std::function<void()> completion)
 {
     ++*pending_;
+    gpointer reply =
+        AsyncReply::of([pending = std::weak_ptr(pending_), completion = std::move(completion)](GAsyncResult*) {
+            if (const auto count = pending.lock()) {
+                completion();
+                --*count;
+            }
+        });
+    if (records.empty()) {
+        // The engine takes no empty list; a task that is done at once answers on a later turn as well.
+        const auto done = GObjectPtr<GTask>::adopt(g_task_new(manager_, nullptr, AsyncReply::call, reply));
+        g_task_return_boolean(done.get(), TRUE);
+        return;
+    }
     webkit_website_data_manager_remove(manager_, engineTypes(types), listOf(records).get(), nullptr, AsyncReply::call,
-                                       AsyncReply::of([manager = manager_, pending = std::weak_ptr(pending_),
-                                                       completion = std::move(completion)](GAsyncResult* result) {
-                                           webkit_website_data_manager_remove_finish(manager, result, nullptr);
-                                           if (const auto count = pending.lock()) {
-                                               completion();
-                                               --*count;
-                                           }
-                                       }));
+                                       reply);
 }
 
 } // namespace orken::desktop

@@ -1,0 +1,1 @@
+"""Pieces of the virtual desktop; `virtual_desktop` in the folder above is what scripts and tests import."""

@@ -1,0 +1,131 @@
+#!/usr/bin/python3
+"""A scripted tour: the client against the demo provider on a virtual desktop, worked with real clicks and keys.
+
+Every step prints one line; the pictures are in build/tour. Exit status 0 when every step went as it should.
+"""
+
+import argparse
+import os
+import pathlib
+import sys
+import time
+import urllib.parse
+
+from harness.client import USER_AGENT, header
+from virtual_desktop import Client, NotReached, Provider, VirtualDesktop
+
+_ROOT = pathlib.Path(__file__).resolve().parent.parent
+
+
+class Tour:
+    """The walk's state. Each public operation is one step; STEPS below gives their order."""
+
+    def __init__(self, desktop, options):
+        self._desktop = desktop
+        self._options = options
+        self._pictures = 0
+        self._provider = None
+        self._client = None
+
+    def start_provider(self):
+        self._provider = Provider(self._desktop, self._program("orken-demo-provider"))
+        return self._provider.address
+
+    def start_window(self):
+        self._client = Client(self._desktop, self._program("orken-demo"), self._provider)
+        self._client.wait_for_start_window()
+        return self._picture("start")
+
+    def login_page(self):
+        self._client.open_application()
+        self._client.wait_for_session_window()
+        self._client.wait_for_login_page()
+        self._provider.wait_for_page("login", guests=[self._client.guest])
+        return self._picture("login")
+
+    def login_request(self):
+        login = next(request for request in self._provider.requests() if request["path"] == "//accounts/login")
+        query = urllib.parse.parse_qs(login["query"], keep_blank_values=True)
+        _expect(list(query) == ["param", "xppKey"], f"login query is {login['query']!r}")
+        _expect(all(values[0] for values in query.values()), f"empty value in login query {login['query']!r}")
+        return f"status {login['status']}"
+
+    def user_agent(self):
+        """The client's own downloads name no user agent; whatever a page asks for must name this one."""
+        agents = {request["path"]: header(request, "User-Agent") for request in self._provider.requests()}
+        for path in ("//accounts/login", "/demo/finished"):
+            _expect(agents.get(path) == USER_AGENT, f"{path} came with user agent {agents.get(path)!r}")
+        wrong = {path: agent for path, agent in agents.items() if agent not in (None, USER_AGENT)}
+        _expect(not wrong, f"other user agents: {wrong}")
+        return f"{len(agents)} addresses"
+
+    def end(self):
+        status = self._client.guest.terminate()
+        _expect(status == 0, f"the client ended with status {status}")
+        return "status 0"
+
+    def failure(self):
+        """What is worth seeing after a failed step."""
+        self._desktop.screen.screenshot(self._options.pictures / "failure.png")
+        if self._client:
+            for line in self._client.guest.lines()[-20:]:
+                print(f"      {line.stream}: {line.text}")
+
+    def _program(self, name):
+        return str(self._options.build / "demo" / name)
+
+    def _picture(self, name):
+        self._pictures += 1
+        path = self._options.pictures / f"{self._pictures}-{name}.png"
+        self._desktop.screen.screenshot(path)
+        return os.path.relpath(path, _ROOT)
+
+
+STEPS = (
+    ("the provider serves", Tour.start_provider),
+    ("the start window is on the screen", Tour.start_window),
+    ('"Uygulamayı Aç" leads to the login page in full screen', Tour.login_page),
+    ("the login request carries param and xppKey", Tour.login_request),
+    ("pages are asked for with the client's user agent", Tour.user_agent),
+    ("SIGTERM ends the client in order", Tour.end),
+)
+
+
+def _expect(holds, otherwise):
+    if not holds:
+        raise NotReached(otherwise)
+
+
+def _walk(tour):
+    for what, step in STEPS:
+        began = time.monotonic()
+        try:
+            detail = step(tour)
+        except (NotReached, OSError) as failure:
+            print(f"FAIL  {what}: {failure}", flush=True)
+            tour.failure()
+            return False
+        print(f"ok    {what} ({detail}, {time.monotonic() - began:.1f} s)", flush=True)
+    return True
+
+
+def _options():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("--width", type=int, default=1280, help="of the screen, in pixels")
+    parser.add_argument("--height", type=int, default=800, help="of the screen, in pixels")
+    parser.add_argument("--build", type=pathlib.Path, default=_ROOT / "build/release", help="build folder to use")
+    parser.add_argument("--pictures", type=pathlib.Path, default=_ROOT / "build/tour", help="folder for the pictures")
+    return parser.parse_args()
+
+
+def main():
+    options = _options()
+    options.pictures.mkdir(parents=True, exist_ok=True)
+    for old in options.pictures.glob("*.png"):
+        old.unlink()
+    with VirtualDesktop(options.width, options.height) as desktop:
+        return 0 if _walk(Tour(desktop, options)) else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())
