@@ -13,6 +13,8 @@ _BUTTON_COLOUR = "#8e8e93"
 _BUTTON_SIZE = 300, 50
 _LOGIN_BAR_COLOUR = "#0a7d4f"
 _LOGIN_BAR_HEIGHT = 56
+# Seconds between looks at the whole screen, which cost the client processor time.
+_LOOK = 0.1
 
 
 class Client:
@@ -23,14 +25,14 @@ class Client:
         self.provider = provider
         self.guest = desktop.spawn([program, provider.ready_file], environment=environment, name="client")
 
-    def wait_for(self, what, condition, limit=60.0):
+    def wait_for(self, what, condition, limit=60.0, interval=0.02):
         """Fails at once when the client or the provider has ended."""
-        return wait_for(what, condition, limit, guests=[self.guest, self.provider.guest])
+        return wait_for(what, condition, limit, [self.guest, self.provider.guest], interval)
 
     def wait_for_start_window(self):
         """Until it can be used: its two wide buttons, "Uygulamayı Aç" above "Uygulamadan Çık"."""
         self.wait_for(f"window {START_TITLE!r}", lambda: self._screen.window(START_TITLE))
-        return self.wait_for("the start window's buttons", self._start_buttons)
+        return self.wait_for("the start window's buttons", self._start_buttons, interval=_LOOK)
 
     def open_application(self):
         """Clicks "Uygulamayı Aç"; answers the moment of the click."""
@@ -53,9 +55,9 @@ class Client:
 
         def bar():
             found = self._screen.image().find_rectangle(_LOGIN_BAR_COLOUR, 4, *size)
-            return found if found and found.y == 0 else None
+            return found if found and found.y < _LOGIN_BAR_HEIGHT // 2 else None
 
-        return self.wait_for("the login page on the screen", bar)
+        return self.wait_for("the login page on the screen", bar, interval=_LOOK)
 
     def _start_buttons(self):
         buttons = self._screen.image().find_rectangles(_BUTTON_COLOUR, 4, *_BUTTON_SIZE)

@@ -16,7 +16,8 @@ using Bytes = std::vector<std::uint8_t>;
 
 [[nodiscard]] inline Bytes toBytes(std::string_view text)
 {
-    return {text.begin(), text.end()};
+    const auto* first = reinterpret_cast<const std::uint8_t*>(text.data());
+    return {first, first + text.size()};
 }
 
 } // namespace orken

@@ -19,10 +19,17 @@ public:
 
     explicit operator bool() const { return content_.index() == 0; }
 
-    [[nodiscard]] const T& value() const
+    [[nodiscard]] const T& value() const&
     {
         assert(content_.index() == 0);
         return *std::get_if<0>(&content_);
+    }
+
+    /// By value: a reference would not outlive the temporary.
+    [[nodiscard]] T value() &&
+    {
+        assert(content_.index() == 0);
+        return std::move(*std::get_if<0>(&content_));
     }
 
     [[nodiscard]] const PlatformError& error() const

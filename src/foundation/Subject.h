@@ -46,8 +46,8 @@ private:
 };
 
 /// Calls its present subscribers in the order in which they subscribed; keeps nothing, replays nothing, never
-/// completes. A subscriber may send, subscribe, cancel anybody and destroy the subject; one that subscribes during a
-/// send gets the next one. One thread only.
+/// completes. A subscriber may send, subscribe, cancel anybody and destroy the subject, whose last send then still
+/// reaches the others; one that subscribes during a send gets the next one. One thread only.
 template <class... Args>
 class Subject {
 public:

@@ -26,9 +26,13 @@ constexpr std::array<ByteOrderMark, 5> kByteOrderMarks{{{"\xEF\xBB\xBF"sv, "UTF-
                                                         {"\xFF\xFE"sv, "UTF-16LE"},
                                                         {"\xFE\xFF"sv, "UTF-16BE"}}};
 
-bool isKnownCharset(const char* charset)
+bool isKnownCharset(const std::string& charset)
 {
-    const GIConv converter = g_iconv_open("UTF-8", charset);
+    // To iconv no name is the locale's charset, and what follows a slash tells it to let errors pass.
+    if (charset.empty() || charset.find('/') != std::string::npos) {
+        return false;
+    }
+    const GIConv converter = g_iconv_open("UTF-8", charset.c_str());
     // iconv reports an unknown name with the pointer -1.
     if (converter == reinterpret_cast<GIConv>(-1)) { // NOLINT(performance-no-int-to-ptr)
         return false;
@@ -59,7 +63,7 @@ std::optional<std::string> decodeText(const Bytes& body, const std::optional<std
             return convert(bytes.substr(mark.bytes.size()), mark.charset);
         }
     }
-    if (charset && isKnownCharset(charset->c_str())) {
+    if (charset && isKnownCharset(*charset)) {
         return convert(bytes, charset->c_str());
     }
     return textFromUtf8(bytes);

@@ -2,14 +2,16 @@
 
 #include "foundation/Text.h"
 
-#include <glib.h>
-
 #include <algorithm>
-#include <memory>
+#include <array>
+#include <charconv>
+#include <cstdint>
 
 namespace orken {
 
 namespace {
+
+constexpr std::string_view kNotInAuthority = "|{}^[]\\`@";
 
 bool isDigit(char c)
 {
@@ -31,46 +33,100 @@ bool isEscape(std::string_view text, std::size_t at)
     return at + 2 < text.size() && hexValue(text[at + 1]) >= 0 && hexValue(text[at + 2]) >= 0;
 }
 
-/// GLib's parser lets these through, or decodes past them.
+/// Characters that may stand anywhere after the scheme without a closer look. A table, because a data URL holds a whole
+/// document.
+constexpr std::array<bool, 256> kPlain = [] {
+    std::array<bool, 256> plain{};
+    for (std::size_t c = 0x21; c < 0x7F; ++c) {
+        plain.at(c) = std::string_view("\"<>%#").find(static_cast<char>(c)) == std::string_view::npos;
+    }
+    return plain;
+}();
+
 bool hasForbiddenCharacter(std::string_view text)
 {
+    bool inFragment = false;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const auto c = static_cast<unsigned char>(text[i]);
-        if (c <= 0x20 || c >= 0x7F || c == '"' || c == '<' || c == '>' || (c == '%' && !isEscape(text, i))) {
+        if (kPlain[static_cast<unsigned char>(text[i])] || (text[i] == '%' && isEscape(text, i))) {
+            continue;
+        }
+        if (text[i] != '#' || inFragment) {
             return true;
         }
+        inFragment = true;
     }
-    return std::count(text.begin(), text.end(), '#') > 1;
+    return false;
 }
 
-std::optional<std::string> optionalText(const char* text)
+/// Takes what follows the first `mark` off `text`, and the mark; absent, and `text` untouched, without a mark.
+std::optional<std::string> splitOff(std::string_view& text, char mark)
 {
-    return text ? std::optional<std::string>(text) : std::nullopt;
+    const std::size_t at = text.find(mark);
+    if (at == std::string_view::npos) {
+        return std::nullopt;
+    }
+    std::string rest(text.substr(at + 1));
+    text = text.substr(0, at);
+    return rest;
+}
+
+/// `[userinfo@]host[:port]`; false when it is none.
+bool readAuthority(std::string_view authority, UrlComponents& components)
+{
+    if (const std::size_t at = authority.rfind('@'); at != std::string_view::npos) {
+        components.user = authority.substr(0, at);
+        authority.remove_prefix(at + 1);
+    }
+    std::size_t hostEnd = authority.find(':');
+    std::string_view name = authority.substr(0, hostEnd);
+    if (authority.starts_with('[')) {
+        const std::size_t closing = authority.find(']');
+        if (closing == std::string_view::npos) {
+            return false;
+        }
+        hostEnd = closing + 1;
+        name = authority.substr(1, closing - 1);
+    }
+    const std::string_view rest = hostEnd < authority.size() ? authority.substr(hostEnd) : std::string_view{};
+    const auto refuses = [](std::string_view part) {
+        return part.find_first_of(kNotInAuthority) != std::string_view::npos;
+    };
+    if (refuses(name) || refuses(components.user.value_or("")) || (!rest.empty() && rest.front() != ':')) {
+        return false;
+    }
+    components.host = authority.substr(0, hostEnd);
+    if (rest.size() > 1) {
+        std::uint16_t port = 0;
+        const auto [end, error] = std::from_chars(rest.data() + 1, rest.data() + rest.size(), port);
+        if (error != std::errc() || end != rest.data() + rest.size()) {
+            return false;
+        }
+        components.port = port;
+    }
+    return true;
 }
 
 } // namespace
 
 std::optional<UrlComponents> parseUrl(std::string_view text)
 {
-    if (text.empty() || hasForbiddenCharacter(text)) {
-        return std::nullopt;
-    }
-    const std::string terminated(text);
-    const std::unique_ptr<GUri, decltype(&g_uri_unref)> uri(
-        g_uri_parse(terminated.c_str(), G_URI_FLAGS_ENCODED, nullptr), g_uri_unref);
-    if (!uri) {
+    const auto scheme = urlScheme(text);
+    if (!scheme || hasForbiddenCharacter(text)) {
         return std::nullopt;
     }
     UrlComponents components;
-    components.scheme = g_uri_get_scheme(uri.get());
-    components.user = optionalText(g_uri_get_userinfo(uri.get()));
-    components.host = optionalText(g_uri_get_host(uri.get()));
-    components.path = g_uri_get_path(uri.get());
-    components.query = optionalText(g_uri_get_query(uri.get()));
-    components.fragment = optionalText(g_uri_get_fragment(uri.get()));
-    if (const int port = g_uri_get_port(uri.get()); port >= 0) {
-        components.port = port;
+    components.scheme = *scheme;
+    text.remove_prefix(scheme->size() + 1);
+    components.fragment = splitOff(text, '#');
+    components.query = splitOff(text, '?');
+    if (text.starts_with("//")) {
+        const std::string_view authority = text.substr(2, text.find('/', 2) - 2);
+        if (!readAuthority(authority, components)) {
+            return std::nullopt;
+        }
+        text.remove_prefix(2 + authority.size());
     }
+    components.path = text;
     return components;
 }
 
@@ -78,9 +134,8 @@ std::optional<std::string> urlScheme(std::string_view text)
 {
     const std::string_view scheme = text.substr(0, text.find(':'));
     const bool valid = scheme.size() < text.size() && !scheme.empty() && isAlpha(scheme.front()) &&
-                       std::all_of(scheme.begin(), scheme.end(), [](char c) {
-                           return isAlpha(c) || isDigit(c) || c == '+' || c == '-' || c == '.';
-                       });
+                       std::all_of(scheme.begin(), scheme.end(),
+                                   [](char c) { return isAlpha(c) || isDigit(c) || c == '+' || c == '-' || c == '.'; });
     return valid ? std::optional<std::string>(scheme) : std::nullopt;
 }
 

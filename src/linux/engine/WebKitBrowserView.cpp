@@ -64,19 +64,14 @@ void WebKitBrowserView::beginRequest()
 
 void WebKitBrowserView::connect()
 {
-    loads_ = std::make_unique<PageLoads>(
-        view_.get(), PageLoads::Events{.started =
-                                           [this] {
-                                               if (pageTitle_) {
-                                                   pageTitle_->answerNow();
-                                               }
-                                           },
-                                       .finished = [this] { pageFinished(); },
-                                       .failed = [this](PageLoads::Stage stage,
-                                                        const PlatformError& error) { reportFailed(stage, error); }});
+    PageLoads::Events events;
+    events.started = [this] { endTitleQuestion(); };
+    events.finished = [this] { pageFinished(); };
+    events.failed = [this](PageLoads::Stage stage, const PlatformError& error) { reportFailed(stage, error); };
+    loads_ = std::make_unique<PageLoads>(view_.get(), std::move(events));
     policies_ = std::make_unique<NavigationPolicies>(view_.get(), *this, delegate_);
-    restart_ = std::make_unique<ProcessRestart>(
-        view_.get(), [this] { loadAgain(); }, report_);
+    const auto loadAgainNow = [this] { loadAgain(); };
+    restart_ = std::make_unique<ProcessRestart>(view_.get(), loadAgainNow, report_);
     silentDefaults_ = silenceDefaults(view_.get());
 }
 
@@ -90,12 +85,17 @@ void WebKitBrowserView::loadAgain()
     }
 }
 
-void WebKitBrowserView::pageFinished()
+void WebKitBrowserView::endTitleQuestion()
 {
-    const auto keep = shared_from_this();
     if (pageTitle_) {
         pageTitle_->answerNow();
     }
+}
+
+void WebKitBrowserView::pageFinished()
+{
+    const auto keep = shared_from_this();
+    endTitleQuestion();
     pageTitle_ = std::make_unique<PageTitle>(view_.get(), [this, address = url()](const std::string& pageTitle) {
         reportFinished({.title = present(pageTitle.c_str()), .url = address});
     });

@@ -62,6 +62,7 @@ private:
     void beginRequest();
     void connect();
     void loadAgain();
+    void endTitleQuestion();
     void pageFinished();
     void reportFinished(FinishedPage page);
     void reportFailed(PageLoads::Stage stage, const PlatformError& error);

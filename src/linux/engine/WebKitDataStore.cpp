@@ -47,16 +47,16 @@ void WebKitDataStore::fetchDataRecords(WebsiteDataTypes types,
                                        std::function<void(std::vector<WebsiteDataRecord>)> completion)
 {
     ++*pending_;
+    auto answered = [manager = manager_, pending = std::weak_ptr(pending_),
+                     completion = std::move(completion)](GAsyncResult* result) {
+        auto records = takeRecords(webkit_website_data_manager_fetch_finish(manager, result, nullptr));
+        if (const auto count = pending.lock()) {
+            completion(std::move(records));
+            --*count;
+        }
+    };
     webkit_website_data_manager_fetch(manager_, engineTypes(types), nullptr, AsyncReply::call,
-                                      AsyncReply::of([manager = manager_, pending = std::weak_ptr(pending_),
-                                                      completion = std::move(completion)](GAsyncResult* result) {
-                                          auto records = takeRecords(
-                                              webkit_website_data_manager_fetch_finish(manager, result, nullptr));
-                                          if (const auto count = pending.lock()) {
-                                              completion(std::move(records));
-                                              --*count;
-                                          }
-                                      }));
+                                      AsyncReply::of(std::move(answered)));
 }
 
 void WebKitDataStore::removeData(WebsiteDataTypes types, const std::vector<WebsiteDataRecord>& records,

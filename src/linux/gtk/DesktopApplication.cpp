@@ -5,7 +5,6 @@
 #include <glib-unix.h>
 #include <gtk/gtk.h>
 
-#include <array>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -33,36 +32,60 @@ void installStyle()
 
 } // namespace
 
+DesktopApplication::~DesktopApplication()
+{
+    for (const guint signal : signals_) {
+        g_source_remove(signal);
+    }
+}
+
 int DesktopApplication::run(ApplicationDelegate& delegate, const WindowGroup& group)
+{
+    if (const auto status = launch(delegate, group)) {
+        return *status;
+    }
+    while (!ended_) {
+        g_main_context_iteration(nullptr, TRUE);
+    }
+    return EXIT_SUCCESS;
+}
+
+std::optional<int> DesktopApplication::launch(ApplicationDelegate& delegate, const WindowGroup& group)
 {
     if (!gtk_init_check()) {
         reportDiagnostic("orken: the desktop cannot be reached: no display");
         return EXIT_FAILURE;
     }
     delegate_ = &delegate;
-    group_ = &group;
-    const auto application = GObjectPtr<GtkApplication>::adopt(
+    group_ = group;
+    application_ = GObjectPtr<GtkApplication>::adopt(
         gtk_application_new(identifier_.c_str(), G_APPLICATION_DEFAULT_FLAGS));
-    application_ = G_APPLICATION(application.get());
-    const auto activated =
-        SignalConnection::make<void(GApplication*)>(application_, "activate", [this](GApplication*) { activate(); });
+    auto* application = G_APPLICATION(application_.get());
+    activated_ =
+        SignalConnection::make<void(GApplication*)>(application, "activate", [this](GApplication*) { activate(); });
+    if (!g_application_register(application, nullptr, nullptr)) {
+        // A bus that refuses the name must not keep the window away: this copy is on its own then.
+        activate();
+    } else {
+        g_application_activate(application);
+        if (g_application_get_is_remote(application)) {
+            g_dbus_connection_flush_sync(g_application_get_dbus_connection(application), nullptr, nullptr);
+            return EXIT_SUCCESS;
+        }
+    }
+    watchSignals();
+    return std::nullopt;
+}
 
+void DesktopApplication::watchSignals()
+{
     auto onSignal = +[](gpointer data) -> gboolean {
         static_cast<DesktopApplication*>(data)->terminate();
         return G_SOURCE_CONTINUE;
     };
-    std::array<guint, 3> signals{};
-    std::size_t count = 0;
     for (const int number : {SIGTERM, SIGHUP, SIGINT}) {
-        signals.at(count++) = g_unix_signal_add(number, onSignal, this);
+        signals_.push_back(g_unix_signal_add(number, onSignal, this));
     }
-
-    const int status = g_application_run(application_, 0, nullptr);
-    for (const guint signal : signals) {
-        g_source_remove(signal);
-    }
-    application_ = nullptr;
-    return status;
 }
 
 void DesktopApplication::activate()
@@ -72,8 +95,6 @@ void DesktopApplication::activate()
         return;
     }
     launched_ = true;
-    // There are moments without any window between the start window and the session's.
-    g_application_hold(application_);
     installStyle();
     windows_.start([this] { terminate(); });
     screens_.start();
@@ -83,8 +104,8 @@ void DesktopApplication::activate()
 void DesktopApplication::openGroupWindow()
 {
     const auto window = windows_.makeGroupWindow();
-    window->setTitle(group_->title);
-    window->setContentView(group_->content());
+    window->setTitle(group_.title);
+    window->setContentView(group_.content());
     window->afterNextFrame(hooks_.started);
     window->makeKeyAndOrderFront();
 }
@@ -101,7 +122,8 @@ void DesktopApplication::terminate()
         std::fflush(nullptr);
         _exit(EXIT_SUCCESS);
     }
-    g_application_quit(application_);
+    ended_ = true;
+    g_main_context_wakeup(nullptr);
 }
 
 void DesktopApplication::finishCleanUp()

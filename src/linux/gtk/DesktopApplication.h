@@ -1,12 +1,15 @@
 #pragma once
 
+#include "linux/GObjectPtr.h"
 #include "linux/gtk/DesktopScreens.h"
 #include "linux/gtk/DesktopWindows.h"
 #include "platform/Application.h"
 #include "platform/TerminationLatch.h"
 
 #include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace orken::desktop {
 
@@ -30,12 +33,19 @@ public:
     {
     }
 
+    ~DesktopApplication() override;
+
     [[nodiscard]] int run(ApplicationDelegate& delegate, const WindowGroup& group) override;
     void terminate() override;
+
+    /// The first part of `run`: the group's window is on its way to the screen. Absent when the main loop is to be
+    /// served from here on, else the process's exit status.
+    [[nodiscard]] std::optional<int> launch(ApplicationDelegate& delegate, const WindowGroup& group);
 
     [[nodiscard]] bool isTerminating() const override { return latch_.isRequested(); }
 
 private:
+    void watchSignals();
     void activate();
     void openGroupWindow();
     void finishCleanUp();
@@ -46,9 +56,12 @@ private:
     Hooks hooks_;
     TerminationLatch latch_;
     ApplicationDelegate* delegate_ = nullptr;
-    const WindowGroup* group_ = nullptr;
-    GApplication* application_ = nullptr;
+    WindowGroup group_;
+    GObjectPtr<GtkApplication> application_;
+    SignalConnection activated_;
+    std::vector<guint> signals_;
     bool launched_ = false;
+    bool ended_ = false;
 };
 
 } // namespace orken::desktop

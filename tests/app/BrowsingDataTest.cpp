@@ -1,0 +1,78 @@
+#include "app/BrowsingData.h"
+
+#include "simulated/SimulatedDesktop.h"
+
+#include <gmock/gmock.h>
+
+#include <cerrno>
+
+namespace orken {
+namespace {
+
+using testing::ElementsAre;
+
+const std::filesystem::path kFolder = "/home/student/.cache/com.orken.test";
+
+struct Bed {
+    std::vector<std::string> clear()
+    {
+        clearBrowsingData(desktop.cookies, desktop.websiteData, desktop.files, "com.orken.test");
+        return desktop.journal.take();
+    }
+
+    simulated::SimulatedDesktop desktop;
+};
+
+TEST(BrowsingData, emptiesTheCachesFolderAndKeepsTheFolderItself)
+{
+    Bed bed;
+    bed.desktop.files.addFile(kFolder / "sub/inner/file");
+    bed.desktop.files.addFile(kFolder / "file");
+    bed.desktop.files.addFile("/home/student/.cache/other/file");
+    EXPECT_EQ(bed.clear().front(), "remove cookies");
+    EXPECT_TRUE(bed.desktop.files.exists(kFolder));
+    EXPECT_FALSE(bed.desktop.files.exists(kFolder / "sub") || bed.desktop.files.exists(kFolder / "file"));
+    EXPECT_TRUE(bed.desktop.files.exists("/home/student/.cache/other/file"));
+}
+
+TEST(BrowsingData, stopsAtAnEntryThatCannotBeRemovedButNotAtOneThatHasVanished)
+{
+    const struct {
+        int code;
+        bool lastIsLeft;
+    } cases[] = {{EACCES, true}, {ENOENT, false}};
+
+    for (const auto& one : cases) {
+        Bed bed;
+        for (const char* name : {"a", "b", "c"}) {
+            bed.desktop.files.addFile(kFolder / name);
+        }
+        bed.desktop.files.failingRemovals[kFolder / "b"] = one.code;
+        bed.clear();
+        EXPECT_FALSE(bed.desktop.files.exists(kFolder / "a"));
+        EXPECT_EQ(bed.desktop.files.exists(kFolder / "c"), one.lastIsLeft) << one.code;
+    }
+}
+
+TEST(BrowsingData, aMissingFolderOrNoCachesDirectoryIsNoFailure)
+{
+    Bed bed;
+    EXPECT_THAT(bed.clear(), ElementsAre("remove cookies"));
+    bed.desktop.files.caches.clear();
+    EXPECT_THAT(bed.clear(), ElementsAre("remove cookies"));
+}
+
+TEST(BrowsingData, everySiteLosesWhatItsOwnRecordNamesInListOrder)
+{
+    Bed bed;
+    bed.desktop.websiteData.records = {{.displayName = "a.example", .dataTypes = 1},
+                                       {.displayName = "b.example", .dataTypes = 6}};
+    EXPECT_THAT(bed.clear(), ElementsAre("remove cookies")) << "the rest is only started";
+    bed.desktop.loop.run();
+    EXPECT_THAT(bed.desktop.journal.acts(),
+                ElementsAre("remove data of a.example types 1", "remove data of b.example types 6"));
+    EXPECT_TRUE(bed.desktop.websiteData.records.empty());
+}
+
+} // namespace
+} // namespace orken

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "app/VistroApp.h"
+#include "simulated/SimulatedDesktop.h"
+
+#include <gmock/gmock.h>
+
+namespace orken {
+
+/// The whole client on a simulated desktop, with an echo server, a login page and something to clean up.
+class Client {
+public:
+    static constexpr const char* kStartTitle = "ORKEN'E Hoşgeldiniz";
+    static constexpr const char* kLoginURL = "https://login.example//accounts/login?param=C02ABC123XYZ&xppKey="
+                                             "5b2e7a41-93cd-4f08-a6e2-1c7d90b3f584";
+
+    explicit Client(simulated::DesktopOptions options = {}) : desktop(options)
+    {
+        desktop.network.routes["https://ip.example/"] = {.body = "203.0.113.7\n", .delay = Seconds{0.2}};
+        desktop.browserViews.site = {{kLoginURL, {.title = "Login", .loadTime = Seconds{3}}}};
+        desktop.files.addFile("/home/student/.cache/com.orken.test/old");
+        desktop.websiteData.records = {{.displayName = "site.example", .dataTypes = 3}};
+    }
+
+    void launch() { EXPECT_EQ(app.main(), 0); }
+
+    [[nodiscard]] std::shared_ptr<simulated::SimulatedWindow> window(const std::string& title) const
+    {
+        return desktop.windows.find(title);
+    }
+
+    simulated::SimulatedDesktop desktop;
+    VistroApp app{{.application = desktop.application,
+                   .windows = desktop.windows,
+                   .notifications = desktop.notifications,
+                   .mainQueue = desktop.loop,
+                   .console = desktop.console,
+                   .bundle = desktop.bundle,
+                   .files = desktop.files,
+                   .cookies = desktop.cookies,
+                   .websiteData = desktop.websiteData,
+                   .contentsReader = desktop.network,
+                   .hardware = desktop.hardware,
+                   .browserViews = desktop.browserViews},
+                  {.bundleIdentifier = "com.orken.test",
+                   .version = "2.1",
+                   .contentHost = "content.example",
+                   .loginHost = "login.example",
+                   .mainPageURL = "https://login.example/",
+                   .animationHost = "animation.example",
+                   .ipEchoURL = "https://ip.example/"}};
+};
+
+/// The acts of a complete clean-up of that client.
+inline const std::vector<std::string> kCleanUp{"remove cookies", "remove /home/student/.cache/com.orken.test/old",
+                                               "remove data of site.example types 3", "terminated"};
+
+} // namespace orken

@@ -1,0 +1,128 @@
+#include "contract/ContractDesktop.h"
+#include "linux/Desktop.h"
+
+#include <gio/gio.h>
+#include <gtk/gtk.h>
+
+#include <fstream>
+
+namespace orken::desktop {
+namespace {
+
+std::vector<GtkWidget*> buttonsIn(GtkWidget* widget)
+{
+    if (GTK_IS_BUTTON(widget)) {
+        return {widget};
+    }
+    std::vector<GtkWidget*> found;
+    for (auto* child = gtk_widget_get_first_child(widget); child; child = gtk_widget_get_next_sibling(child)) {
+        const auto inside = buttonsIn(child);
+        found.insert(found.end(), inside.begin(), inside.end());
+    }
+    return found;
+}
+
+/// The buttons of the alert that is up, first one first; it stands at the trailing edge.
+std::vector<GtkWidget*> alertButtons()
+{
+    std::vector<GtkWidget*> buttons;
+    GListModel* toplevels = gtk_window_get_toplevels();
+    for (guint i = 0; i < g_list_model_get_n_items(toplevels); ++i) {
+        const auto window = GObjectPtr<GtkWindow>::adopt(static_cast<GtkWindow*>(g_list_model_get_item(toplevels, i)));
+        if (gtk_window_get_modal(window.get()) && gtk_widget_get_mapped(GTK_WIDGET(window.get()))) {
+            buttons = buttonsIn(gtk_window_get_child(window.get()));
+        }
+    }
+    std::reverse(buttons.begin(), buttons.end());
+    return buttons;
+}
+
+class ContractSide final : public ContractDesktop {
+public:
+    void launch(ApplicationDelegate& delegate, const WindowGroup& group) override
+    {
+        EXPECT_FALSE(desktop_.application.launch(delegate, group));
+        EXPECT_TRUE(runUntil([&] { return desktop_.windows.key() != nullptr; }, Seconds{10}));
+    }
+
+    [[nodiscard]] bool runUntil(const std::function<bool()>& done, Seconds limit) override
+    {
+        bool late = false;
+        auto setLate = +[](gpointer data) -> gboolean { return *static_cast<bool*>(data) = true; };
+        // Completions of the background queue wake nobody here, so the condition is looked at now and then.
+        auto look = +[](gpointer) -> gboolean { return G_SOURCE_CONTINUE; };
+        const guint limiter = g_timeout_add(static_cast<guint>(limit.count() * 1000), setLate, &late);
+        const guint looker = g_timeout_add(10, look, nullptr);
+        while (!done() && !late) {
+            g_main_context_iteration(nullptr, TRUE);
+        }
+        g_source_remove(limiter);
+        g_source_remove(looker);
+        return done();
+    }
+
+    void answerNextAlert(std::size_t button) override
+    {
+        auto press = +[](gpointer data) -> gboolean {
+            const auto buttons = alertButtons();
+            const auto index = GPOINTER_TO_SIZE(data);
+            if (index >= buttons.size()) {
+                return G_SOURCE_CONTINUE;
+            }
+            g_signal_emit_by_name(buttons[index], "clicked");
+            return G_SOURCE_REMOVE;
+        };
+        g_timeout_add(10, press, GSIZE_TO_POINTER(button));
+    }
+
+    [[nodiscard]] std::filesystem::path makeFolder() override
+    {
+        const GText folder(g_dir_make_tmp("orken-contract-XXXXXX", nullptr));
+        const std::filesystem::path path = folder.get();
+        std::filesystem::create_directory(path / "b");
+        for (const auto* file : {"a", "b/c"}) {
+            std::ofstream(path / file) << "content";
+        }
+        return path;
+    }
+
+    [[nodiscard]] std::string refusedAddress() override
+    {
+        // Taken from the system and given back: nobody listens there.
+        const auto socket = GObjectPtr<GSocketListener>::adopt(g_socket_listener_new());
+        const auto port = g_socket_listener_add_any_inet_port(socket.get(), nullptr, nullptr);
+        return "http://127.0.0.1:" + std::to_string(port) + "/";
+    }
+
+    [[nodiscard]] ContractPorts ports() override
+    {
+        return {.mainQueue = desktop_.mainQueue,
+                .timers = desktop_.timers,
+                .notifications = desktop_.notifications,
+                .windows = desktop_.windows,
+                .application = desktop_.application,
+                .alerts = desktop_.alerts,
+                .files = desktop_.files,
+                .urlSession = desktop_.urlSession,
+                .contentsReader = desktop_.contentsReader,
+                .browserViews = desktop_.engine,
+                .websiteData = desktop_.engine};
+    }
+
+private:
+    Desktop desktop_{{.bundleIdentifier = "com.orken.contract", .version = "1.0"}};
+};
+
+std::unique_ptr<ContractDesktop> makeDesktop()
+{
+    return std::make_unique<ContractSide>();
+}
+
+} // namespace
+} // namespace orken::desktop
+
+namespace orken {
+
+INSTANTIATE_TEST_SUITE_P(linux_, Contract, testing::Values(&desktop::makeDesktop));
+
+} // namespace orken

@@ -1,0 +1,66 @@
+#include "contract/ContractDesktop.h"
+#include "simulated/SimulatedDesktop.h"
+
+namespace orken::simulated {
+namespace {
+
+class ContractSide final : public ContractDesktop {
+public:
+    void launch(ApplicationDelegate& delegate, const WindowGroup& group) override
+    {
+        EXPECT_EQ(desktop_.application.run(delegate, group), 0);
+    }
+
+    [[nodiscard]] bool runUntil(const std::function<bool()>& done, Seconds limit) override
+    {
+        return desktop_.loop.runUntil(
+            [&] {
+                desktop_.loop.runBackground();
+                return done();
+            },
+            limit);
+    }
+
+    void answerNextAlert(std::size_t button) override { desktop_.alerts.answerNext(button == 0 ? "Evet" : "Hayır"); }
+
+    [[nodiscard]] std::filesystem::path makeFolder() override
+    {
+        desktop_.files.addFile("/folder/a");
+        desktop_.files.addFile("/folder/b/c");
+        return "/folder";
+    }
+
+    [[nodiscard]] std::string refusedAddress() override { return "http://refused.example/"; }
+
+    [[nodiscard]] ContractPorts ports() override
+    {
+        return {.mainQueue = desktop_.loop,
+                .timers = desktop_.loop,
+                .notifications = desktop_.notifications,
+                .windows = desktop_.windows,
+                .application = desktop_.application,
+                .alerts = desktop_.alerts,
+                .files = desktop_.files,
+                .urlSession = desktop_.network,
+                .contentsReader = desktop_.network,
+                .browserViews = desktop_.browserViews,
+                .websiteData = desktop_.websiteData};
+    }
+
+private:
+    SimulatedDesktop desktop_;
+};
+
+std::unique_ptr<ContractDesktop> makeDesktop()
+{
+    return std::make_unique<ContractSide>();
+}
+
+} // namespace
+} // namespace orken::simulated
+
+namespace orken {
+
+INSTANTIATE_TEST_SUITE_P(simulated, Contract, testing::Values(&simulated::makeDesktop));
+
+} // namespace orken

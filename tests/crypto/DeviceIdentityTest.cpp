@@ -1,0 +1,50 @@
+#include "crypto/DeviceIdentity.h"
+
+#include "simulated/SimulatedDesktop.h"
+
+#include <gtest/gtest.h>
+
+namespace orken {
+namespace {
+
+constexpr const char* kEcho = "https://ip.example/";
+
+struct Bed {
+    simulated::SimulatedDesktop desktop;
+    DeviceIdentity identity{desktop.hardware, desktop.network, kEcho};
+};
+
+TEST(DeviceIdentity, theSerialNumberIsTrimmedAndReadAnew)
+{
+    Bed bed;
+    EXPECT_EQ(bed.identity.platformSerialNumber(), "C02ABC123XYZ");
+    bed.desktop.hardware.serial = " \n";
+    EXPECT_EQ(bed.identity.platformSerialNumber(), "") << "blank is a value";
+    bed.desktop.hardware.serial.reset();
+    EXPECT_EQ(bed.identity.platformSerialNumber(), std::nullopt);
+}
+
+TEST(DeviceIdentity, theAddressIsTheTrimmedBodyOfAnyAnswer)
+{
+    const struct {
+        simulated::Route route;
+        std::optional<std::string> address;
+    } cases[] = {
+        {{.body = "203.0.113.7\n"}, "203.0.113.7"},
+        {{.body = " 203.0.113.7 \r\n"}, "203.0.113.7"},
+        {{.body = "\n"}, ""},
+        {{.body = "gone", .statusCode = 404}, "gone"},
+        {{.error = platformError("network", 1, "", "no route")}, std::nullopt},
+    };
+
+    for (const auto& one : cases) {
+        Bed bed;
+        bed.desktop.network.routes[kEcho] = one.route;
+        EXPECT_EQ(bed.identity.fetchPublicIPAddress(), one.address);
+        EXPECT_EQ(bed.identity.fetchPublicIPAddress(), one.address);
+        EXPECT_EQ(bed.desktop.journal.starting("GET ").size(), 2U) << "nothing is cached";
+    }
+}
+
+} // namespace
+} // namespace orken

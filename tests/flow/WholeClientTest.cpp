@@ -1,0 +1,139 @@
+#include "app/Client.h"
+
+namespace orken {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
+
+/// How far a client has got when something happens to it.
+enum class Stage { launched, sessionOpen, loading, finished };
+
+constexpr Stage kStages[] = {Stage::launched, Stage::sessionOpen, Stage::loading, Stage::finished};
+
+void reach(Client& client, Stage stage)
+{
+    client.launch();
+    client.desktop.loop.run();
+    if (stage >= Stage::sessionOpen) {
+        client.desktop.press("Uygulamayı Aç");
+    }
+    if (stage >= Stage::loading) {
+        client.desktop.loop.advance(Seconds{1});
+    }
+    if (stage >= Stage::finished) {
+        client.desktop.loop.advance(Seconds{3});
+    }
+}
+
+bool isEnabled(const Client& client)
+{
+    return client.window("ORKEN")->content().isUsable(*client.desktop.browserViews.latest);
+}
+
+TEST(WholeClient, goesFromTheStartWindowToAPageInFullScreen)
+{
+    Client client;
+    reach(client, Stage::loading);
+    const auto session = client.window("ORKEN");
+    EXPECT_FALSE(isEnabled(client)) << "not before the first page has finished";
+    EXPECT_NE(session->styleMask() & windowStyle::kFullScreen, 0U);
+    EXPECT_THAT(client.desktop.journal.starting("request "), testing::SizeIs(1));
+
+    client.desktop.loop.advance(Seconds{3});
+    EXPECT_TRUE(isEnabled(client));
+    client.desktop.loop.advance(Seconds{60});
+    EXPECT_NE(session->styleMask() & windowStyle::kFullScreen, 0U) << "the toggles go to the panel";
+    EXPECT_THAT(client.desktop.journal.starting("print "),
+                ElementsAre("print asdasdasdasd: Optional(\"203.0.113.7\")",
+                            "print FullScreen observeFullScreenChanges ", std::string("print ") + Client::kLoginURL,
+                            "print Gelen data tipi https"));
+    EXPECT_THAT(client.desktop.journal.starting("browser view"), testing::SizeIs(1)) << "no redraw makes another one";
+}
+
+TEST(WholeClient, aFailedFirstLoadLeavesTheSessionDisabled)
+{
+    Client client;
+    client.desktop.browserViews.site.clear();
+    reach(client, Stage::finished);
+    EXPECT_FALSE(isEnabled(client));
+    EXPECT_EQ(client.desktop.browserViews.latest->url(), std::nullopt);
+}
+
+TEST(WholeClient, theSessionClosesWhatElseIsInView)
+{
+    Client client;
+    reach(client, Stage::sessionOpen);
+    const auto inspector = client.desktop.windows.openToolkitWindow("Inspector");
+    client.desktop.loop.advance(Seconds{1});
+    EXPECT_FALSE(inspector->isVisible());
+    EXPECT_TRUE(client.window("ORKEN")->isVisible());
+}
+
+TEST(WholeClient, quittingCleansUpOnceAtEveryStageAndNothingRunsAfterIt)
+{
+    for (const Stage stage : kStages) {
+        Client client;
+        reach(client, stage);
+        client.desktop.journal.clear();
+        client.desktop.quitFromOutside();
+        client.desktop.quitFromOutside();
+        client.desktop.loop.advance(Seconds{600});
+        EXPECT_THAT(client.desktop.journal.acts(), ElementsAreArray(kCleanUp)) << static_cast<int>(stage);
+    }
+}
+
+TEST(WholeClient, theQuitButtonTerminates)
+{
+    Client client;
+    reach(client, Stage::launched);
+    client.desktop.journal.clear();
+    client.desktop.press("Uygulamadan Çık");
+    EXPECT_THAT(client.desktop.journal.acts(), ElementsAreArray(kCleanUp));
+}
+
+TEST(WholeClient, theUsersCloseOfTheOnlyWindowTerminates)
+{
+    for (const Stage stage : kStages) {
+        Client client;
+        reach(client, stage);
+        client.desktop.windows.userCloses(client.window(stage == Stage::launched ? Client::kStartTitle : "ORKEN"));
+        EXPECT_THAT(client.desktop.journal.acts(), Contains("terminated")) << static_cast<int>(stage);
+    }
+}
+
+TEST(WholeClient, aQuitDuringTheAddressRequestComesAfterItsLine)
+{
+    Client client;
+    auto& echo = client.desktop.network.routes["https://ip.example/"];
+    echo.error = platformError("network", 3, "", "cancelled");
+    echo.meanwhile = [&] { client.desktop.quitFromOutside(); };
+    reach(client, Stage::loading);
+    const auto acts = client.desktop.journal.acts();
+    const auto line = std::find(acts.begin(), acts.end(), "print asdasdasdasd: nil");
+    ASSERT_NE(line, acts.end());
+    EXPECT_TRUE(std::equal(line + 1, acts.end(), kCleanUp.begin(), kCleanUp.end()));
+}
+
+TEST(WholeClient, withoutAWindowManagerItWorksInAnOrdinaryWindow)
+{
+    Client client({.windowManager = false});
+    reach(client, Stage::finished);
+    EXPECT_EQ(client.window("ORKEN")->styleMask() & windowStyle::kFullScreen, 0U);
+    EXPECT_TRUE(isEnabled(client));
+}
+
+TEST(WholeClient, openingPrintsAndRequestsNothingBeforeTheUserAsksForIt)
+{
+    Client client;
+    client.launch();
+    client.desktop.loop.advance(Seconds{60});
+    EXPECT_THAT(client.desktop.journal.starting("GET "), IsEmpty());
+    EXPECT_THAT(client.desktop.journal.starting("print "), IsEmpty());
+    EXPECT_EQ(client.desktop.browserViews.latest, nullptr);
+}
+
+} // namespace
+} // namespace orken

@@ -1,0 +1,88 @@
+#include "foundation/Text.h"
+#include "foundation/PlatformError.h"
+#include "foundation/TextDecoding.h"
+
+#include <gtest/gtest.h>
+
+namespace orken {
+namespace {
+
+using namespace std::string_view_literals;
+using OptionalText = std::optional<std::string>;
+
+TEST(Text, utf8IsStrict)
+{
+    for (const auto valid : {""sv, "A\0B"sv, "\xC3\x96"sv, "\xED\x9F\xBF"sv, "\xEE\x80\x80"sv, "\xF4\x8F\xBF\xBF"sv}) {
+        EXPECT_TRUE(isValidUtf8(valid)) << valid;
+    }
+    for (const auto bytes :
+         {"\xC0\x80", "\xC1\xBF", "\xE0\x9F\xBF", "\xF0\x8F\xBF\xBF", "\xED\xA0\x80", "\xED\xBF\xBF",
+          "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xE2\x82", "a\xC3", "\x80", "\xC3\x28", "\xE2\x28\xA1", "\xFF"}) {
+        EXPECT_FALSE(isValidUtf8(bytes)) << bytes;
+        EXPECT_EQ(textFromUtf8(bytes), std::nullopt);
+    }
+    EXPECT_EQ(textFromUtf8("\xEF\xBB\xBF\xC3\x96"), "Ö");
+    EXPECT_EQ(textFromUtf8("a\xEF\xBB\xBF"), "a\xEF\xBB\xBF");
+}
+
+TEST(Text, trimmingTakesUnicodeWhiteSpaceFromBothEndsOnly)
+{
+    const std::pair<std::string_view, std::string_view> cases[] = {
+        {" 203.0.113.7 \r\n", "203.0.113.7"},
+        {"\n", ""},
+        {"\u00A0x\u2028", "x"},
+        {"\u0085\u1680\u3000a \u2003b\u202F\u205F\u2029\v", "a \u2003b"},
+        {"\u200Bx\uFEFF", "\u200Bx\uFEFF"},
+        {"\u180Ex", "\u180Ex"},
+        {"x\xA0", "x\xA0"},
+        {"\x80\x80\x80\x80\x80 ", "\x80\x80\x80\x80\x80"}};
+    for (const auto& [text, expected] : cases) {
+        EXPECT_EQ(trimmed(text), expected) << text;
+    }
+}
+
+TEST(Text, debugFormEscapesWhatCannotStandBetweenQuotes)
+{
+    EXPECT_EQ(debugDescription("a\"b\\c'd\n\r\t\0\x1B\x7F"sv), R"("a\"b\\c\'d\n\r\t\0\u{1B}\u{7F}")");
+    EXPECT_EQ(debugDescription("Öğrenci"), "\"Öğrenci\"");
+    EXPECT_EQ(optionalDescription(OptionalText("203.0.113.7")), "Optional(\"203.0.113.7\")");
+    EXPECT_EQ(optionalDescription(OptionalText()), "nil");
+}
+
+TEST(PlatformError, isOneLineWithTheObjectFirst)
+{
+    const auto error = platformError("posix", 2, "/a b", "No such\nfile\r");
+    EXPECT_EQ(error.localisedDescription(), "/a b: No such file ");
+    EXPECT_EQ(error.description(), "Error Domain=posix Code=2 \"/a b: No such file \"");
+    EXPECT_EQ(platformError("json", 1, "", "bad").message, "bad");
+}
+
+TEST(Text, responsesAreDecodedByMarkThenCharsetThenUtf8)
+{
+    struct Case {
+        std::string_view bytes;
+        OptionalText charset, text;
+    };
+
+    const Case cases[] = {{"", {}, ""},
+                          {"\xEF\xBB\xBF\xC3\x96", "iso-8859-9", "Ö"},
+                          {"\xEF\xBB\xBF", {}, ""},
+                          {"\xFE\xFF\0\xD6"sv, {}, "Ö"},
+                          {"\xFF\xFE\xD6\0"sv, "utf-8", "Ö"},
+                          {"\xFF\xFE\0\0\xD6\0\0\0"sv, {}, "Ö"},
+                          {"\0\0\xFE\xFF\0\x01\xF6\0"sv, {}, "\U0001F600"},
+                          {"\xFE\xFF\xD8\x3D"sv, {}, {}},
+                          {"\xF0", "ISO-8859-9", "ğ"},
+                          {"\xF0", {}, {}},
+                          {"\xF0", "utf-8", {}},
+                          {"a\xF0", "utf-8//IGNORE", {}},
+                          {"\xC3\x96", "no-such-charset", "Ö"},
+                          {"\xC3\x96", "", "Ö"},
+                          {"\xC3\x96", "us-ascii", {}}};
+    for (const Case& c : cases) {
+        EXPECT_EQ(decodeText(toBytes(c.bytes), c.charset), c.text) << c.bytes << " " << c.charset.value_or("none");
+    }
+}
+
+} // namespace
+} // namespace orken

@@ -1,0 +1,112 @@
+#include "foundation/Url.h"
+#include "foundation/FileName.h"
+#include "foundation/Query.h"
+
+#include <gtest/gtest.h>
+
+namespace orken {
+namespace {
+
+using namespace std::string_view_literals;
+using OptionalText = std::optional<std::string>;
+
+TEST(Url, splitsIntoComponentsWithoutDecoding)
+{
+    struct Case {
+        std::string_view text;
+        UrlComponents parts;
+    };
+
+    const Case cases[] = {
+        {"https://h//accounts/login?param=U&xppKey=K",
+         {.scheme = "https", .host = "h", .path = "//accounts/login", .query = "param=U&xppKey=K"}},
+        {"about:blank", {.scheme = "about", .path = "blank"}},
+        {"file:///x", {.scheme = "file", .host = "", .path = "/x"}},
+        {"blob:https://h/uuid", {.scheme = "blob", .path = "https://h/uuid"}},
+        {"HTTP://u:p@H:65535?", {.scheme = "HTTP", .user = "u:p", .host = "H", .port = 65535, .query = ""}},
+        {"http://[::1]:9/a#", {.scheme = "http", .host = "[::1]", .port = 9, .path = "/a", .fragment = ""}},
+        {"http://h:/:80?a/b?@c#d?e",
+         {.scheme = "http", .host = "h", .path = "/:80", .query = "a/b?@c", .fragment = "d?e"}},
+        {"http://%C3%B6%2F/%2F..%2Fx%3F%E9", {.scheme = "http", .host = "%C3%B6%2F", .path = "/%2F..%2Fx%3F%E9"}},
+        {"https://h/p?x=|{}^[]\\`", {.scheme = "https", .host = "h", .path = "/p", .query = "x=|{}^[]\\`"}}};
+    for (const Case& c : cases) {
+        const auto parts = parseUrl(c.text);
+        ASSERT_TRUE(parts) << c.text;
+        EXPECT_EQ(*parts, c.parts) << c.text;
+    }
+}
+
+TEST(Url, refusesWhatIsNoAbsoluteAddress)
+{
+    for (const auto text : {"", "x", "//h/p", ":x", "1a:b", " a:b", "a:b c", "a:b\n", "a:\x7F", "a:é", "a:\"", "a:<b",
+                            "a:>", "a:%", "a:%4", "a:%4g", "a:b#c#d"}) {
+        EXPECT_FALSE(parseUrl(text)) << text;
+    }
+    for (const auto authority :
+         {"h:8a", "h:-1", "h:+8", "h:65536", "[::1", "[::1]x", "h]", "h[", "a{b", "h\\x", "a@b@c", "a^:b@c"}) {
+        EXPECT_FALSE(parseUrl(std::string("http://") + authority + "/p")) << authority;
+    }
+    EXPECT_FALSE(parseUrl("a:\0"sv));
+}
+
+TEST(Url, schemeIsWhatStandsBeforeTheFirstColon)
+{
+    EXPECT_EQ(urlScheme("blob:https://h/"), "blob");
+    EXPECT_EQ(urlScheme("A+-.1:"), "A+-.1");
+    EXPECT_EQ(urlScheme("a b:c"), std::nullopt);
+    EXPECT_EQ(urlScheme("blob"), std::nullopt);
+}
+
+TEST(Url, decodingKeepsTheEncodedTextWhereTheBytesAreNoUtf8)
+{
+    EXPECT_EQ(percentDecoded("%C3%96+%2f%41%25"), "Ö+/A%");
+    EXPECT_EQ(percentDecoded("a%20b%E9"), "a%20b%E9");
+    EXPECT_EQ(percentDecodedBytes("%E9%00%%4%zz"), "\xE9\0%%4%zz"sv);
+}
+
+TEST(Query, splitsBeforeItDecodes)
+{
+    struct Case {
+        std::string_view query;
+        std::vector<QueryItem> items;
+        std::string_view description;
+    };
+
+    const Case cases[] = {{"", {}, "[]"},
+                          {"a&b=&=c", {{"a", {}}, {"b", ""}, {"", "c"}}, "[a, b=, =c]"},
+                          {"&&", {{"", {}}, {"", {}}, {"", {}}}, "[, , ]"},
+                          {"hash=B6xUEGCyo/eXAqNDLYnlZw==&x",
+                           {{"hash", "B6xUEGCyo/eXAqNDLYnlZw=="}, {"x", {}}},
+                           "[hash=B6xUEGCyo/eXAqNDLYnlZw==, x]"},
+                          {"hash=%2BKzf%3D&a+b=c+d", {{"hash", "+Kzf="}, {"a+b", "c+d"}}, "[hash=+Kzf=, a+b=c+d]"},
+                          {"hash=a%26b&hash=2", {{"hash", "a&b"}, {"hash", "2"}}, "[hash=a&b, hash=2]"},
+                          {"%68=%E9%41&%C3%96%3D=", {{"h", "%E9%41"}, {"Ö=", ""}}, "[h=%E9%41, Ö==]"}};
+    for (const Case& c : cases) {
+        const auto items = queryItems({.scheme = "https", .query = std::string(c.query)});
+        EXPECT_EQ(items, c.items) << c.query;
+        EXPECT_EQ(description(c.items), c.description);
+    }
+    EXPECT_EQ(queryItems({.scheme = "https"}), std::nullopt);
+}
+
+TEST(FileName, isTheLastComponentAndNeverAPath)
+{
+    const std::pair<std::string_view, OptionalText> cases[] = {
+        {"blob:https://h/rapor.pdf%3Fv=2", "rapor.pdf"},
+        {"blob:https://h/%3Fx", {}},
+        {"blob:https://h/uuid/#f", "uuid"},
+        {"blob:https://h/uuid//?a/b", "uuid"},
+        {"blob:https://h/..%2F..%2Fx", "x"},
+        {"blob:https://h/..%2F%2e%2E%2F", ".."},
+        {"blob:https://h/%2Fetc%2Fpasswd%00.pdf", "passwd"},
+        {"blob:https://h/%E9%2F..%2Fx", "%E9%2F..%2Fx"},
+        {"blob:https://h/\"ders notu\"%C3%96.pdf", "\"ders notu\"Ö.pdf"},
+        {"blob:///#x", {}},
+        {"", {}}};
+    for (const auto& [url, name] : cases) {
+        EXPECT_EQ(fileBaseName(url), name) << url;
+    }
+}
+
+} // namespace
+} // namespace orken

@@ -1,0 +1,140 @@
+#include "session/WindowControl.h"
+
+#include "simulated/SimulatedDesktop.h"
+
+#include <gmock/gmock.h>
+
+namespace orken {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr WindowStyleMask kOrdinary = 15;
+constexpr simulated::DesktopOptions kWithoutPanel{.permanentPanel = false};
+
+struct Bed {
+    explicit Bed(simulated::DesktopOptions options = kWithoutPanel) : desktop(options) {}
+
+    std::shared_ptr<Window> window(const std::string& title, bool shown = true)
+    {
+        const auto made = desktop.windows.makeWindow({.width = 10, .height = 10}, kOrdinary);
+        made->setTitle(title);
+        if (shown) {
+            made->makeKeyAndOrderFront();
+        }
+        desktop.journal.clear();
+        return made;
+    }
+
+    simulated::SimulatedDesktop desktop;
+    WindowControl control{desktop.windows, desktop.notifications, desktop.console};
+    State<bool> isFullScreen{{}, false};
+};
+
+bool isFull(const std::shared_ptr<Window>& window)
+{
+    return (window->styleMask() & windowStyle::kFullScreen) != 0;
+}
+
+TEST(WindowControl, anEmptyListIsLeftAlone)
+{
+    Bed bed;
+    bed.control.enterFullScreen(bed.isFullScreen);
+    bed.control.toggleFullScreen();
+    bed.control.closeOtherWindows();
+    EXPECT_THAT(bed.desktop.journal.acts(), IsEmpty());
+    EXPECT_FALSE(bed.isFullScreen.get());
+}
+
+TEST(WindowControl, theFirstWindowEntersOnceAndTheLastIsToggledWhateverItsState)
+{
+    Bed bed;
+    const auto first = bed.window("A");
+    const auto last = bed.window("B");
+    bed.control.enterFullScreen(bed.isFullScreen);
+    EXPECT_TRUE(bed.isFullScreen.get()) << "set with the request";
+    bed.desktop.loop.advance(Seconds{1});
+    EXPECT_TRUE(isFull(first));
+
+    bed.isFullScreen.set(false);
+    bed.control.enterFullScreen(bed.isFullScreen);
+    EXPECT_FALSE(bed.isFullScreen.get()) << "already there: nothing is written";
+
+    for (const bool full : {true, false, true}) {
+        bed.control.toggleFullScreen();
+        bed.desktop.loop.advance(Seconds{1});
+        EXPECT_EQ(isFull(last), full);
+    }
+    EXPECT_TRUE(isFull(first));
+}
+
+TEST(WindowControl, aSoleWindowIgnoresTheToggleThatMeetsItsWayIn)
+{
+    Bed bed;
+    const auto window = bed.window("W");
+    bed.control.enterFullScreen(bed.isFullScreen);
+    bed.control.toggleFullScreen();
+    bed.desktop.loop.advance(Seconds{1});
+    EXPECT_TRUE(isFull(window));
+    EXPECT_THAT(bed.desktop.journal.acts(), ElementsAre("enter full screen W"));
+}
+
+TEST(WindowControl, behindThePermanentPanelTheSessionNeverLeavesFullScreen)
+{
+    Bed bed(simulated::DesktopOptions{});
+    const auto window = bed.window("W");
+    bed.control.enterFullScreen(bed.isFullScreen);
+    bed.desktop.loop.advance(Seconds{1});
+    bed.control.closeOtherWindows();
+    bed.control.toggleFullScreen();
+    bed.desktop.loop.advance(Seconds{1});
+    EXPECT_TRUE(isFull(window));
+    EXPECT_THAT(bed.desktop.journal.acts(), ElementsAre("enter full screen W"));
+}
+
+TEST(WindowControl, closesEveryVisibleWindowButTheFirstInTheList)
+{
+    const struct {
+        std::vector<bool> shown;
+        std::vector<std::string> closed;
+    } cases[] = {
+        {{true}, {}},
+        {{true, true, true}, {"close B", "close C"}},
+        {{false, true, true}, {"close B", "close C"}},
+        {{true, false, true}, {"close C"}},
+    };
+
+    for (const auto& one : cases) {
+        Bed bed;
+        for (std::size_t i = 0; i < one.shown.size(); ++i) {
+            bed.window(std::string(1, static_cast<char>('A' + i)), one.shown[i]);
+        }
+        bed.control.closeOtherWindows();
+        EXPECT_EQ(bed.desktop.journal.acts(), one.closed);
+    }
+}
+
+TEST(WindowControl, theFlagFollowsEveryWindowForAsLongAsItExists)
+{
+    Bed bed;
+    bed.window("A");
+    const auto other = bed.window("B");
+    auto flag = std::make_unique<State<bool>>(std::weak_ptr<Invalidation>(), false);
+    bed.control.observeFullScreenChanges(*flag);
+    bed.control.observeFullScreenChanges(*flag);
+    EXPECT_THAT(bed.desktop.journal.take(), ElementsAre("print FullScreen observeFullScreenChanges ",
+                                                        "print FullScreen observeFullScreenChanges "));
+    other->toggleFullScreen();
+    EXPECT_FALSE(flag->get());
+    bed.desktop.loop.advance(Seconds{1});
+    EXPECT_TRUE(flag->get());
+    other->toggleFullScreen();
+    EXPECT_FALSE(flag->get()) << "from the beginning of the way out";
+    flag.reset();
+    bed.desktop.loop.advance(Seconds{1});
+    other->toggleFullScreen();
+}
+
+} // namespace
+} // namespace orken

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "simulated/SimulatedAlerts.h"
+#include "simulated/SimulatedBrowser.h"
+#include "simulated/SimulatedFiles.h"
+#include "simulated/SimulatedMachine.h"
+#include "simulated/SimulatedNetwork.h"
+#include "simulated/SimulatedWebsiteData.h"
+
+namespace orken::simulated {
+
+/// A whole desktop in memory. Tests hand its parts to the product and play the user and the outside.
+class SimulatedDesktop {
+public:
+    explicit SimulatedDesktop(DesktopOptions options = {}) : windows(loop, notifications, journal, options)
+    {
+        windows.onLastClosed = [this] { application.terminate(); };
+        application.beforeEnd = [this] {
+            alerts.abortAll();
+            websiteData.finish();
+        };
+    }
+
+    SimulatedDesktop(const SimulatedDesktop&) = delete;
+    SimulatedDesktop& operator=(const SimulatedDesktop&) = delete;
+
+    Journal journal;
+    MainLoop loop;
+    NotificationCenter notifications;
+    SimulatedWindows windows;
+    SimulatedApplication application{loop, windows, journal};
+    SimulatedAlerts alerts{loop, windows, application, journal};
+    SimulatedConsole console{journal};
+    SimulatedHardware hardware;
+    SimulatedBundle bundle;
+    SimulatedScreens screens;
+    SimulatedCookies cookies{journal};
+    SimulatedFiles files{journal};
+    SimulatedNetwork network{loop, journal};
+    SimulatedWebsiteData websiteData{loop, journal};
+    SimulatedBrowserViews browserViews{loop, journal};
+
+    /// The visible window that shows the text; null when there is none.
+    [[nodiscard]] SimulatedWindows::WindowPtr showing(const std::string& text) const
+    {
+        for (const auto& window : windows.list()) {
+            if (window->isVisible() && window->content().shows(text)) {
+                return window;
+            }
+        }
+        return nullptr;
+    }
+
+    /// The user presses a button; what follows has not happened yet when this returns.
+    void press(const std::string& button)
+    {
+        const auto window = showing(button);
+        require(window && !loop.isModal() && !application.isTerminating(), "this cannot be pressed now: " + button);
+        window->content().press(button);
+    }
+
+    /// The user answers the alert that belongs to the window with this text.
+    void answerAlertOf(const std::string& text, const std::string& button)
+    {
+        const auto window = showing(text);
+        require(window && !loop.isModal(), "no alert can be seen over " + text);
+        window->content().answerAlert(button);
+    }
+
+    /// The session manager or a signal asks the client to end.
+    void quitFromOutside()
+    {
+        loop.later(Seconds{0}, [this] { application.terminate(); });
+    }
+};
+
+} // namespace orken::simulated

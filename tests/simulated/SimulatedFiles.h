@@ -1,0 +1,89 @@
+#pragma once
+
+#include "platform/Files.h"
+#include "simulated/Journal.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace orken::simulated {
+
+/// Folders and files in memory, listed in the order in which they were made.
+class SimulatedFiles final : public Files {
+public:
+    using Path = std::filesystem::path;
+
+    explicit SimulatedFiles(Journal& journal) : journal_(journal) {}
+
+    [[nodiscard]] std::vector<Path> cachesDirectories() const override { return caches; }
+
+    [[nodiscard]] Outcome<std::vector<std::string>> contentsOfDirectory(const Path& directory) const override
+    {
+        if (folders_.count(directory) == 0) {
+            return failure(directory, exists(directory) ? ENOTDIR : ENOENT);
+        }
+        std::vector<std::string> names;
+        for (const Path& item : items_) {
+            if (item.parent_path() == directory) {
+                names.push_back(item.filename().string());
+            }
+        }
+        return names;
+    }
+
+    [[nodiscard]] Outcome<void> removeItem(const Path& item) override
+    {
+        const auto failing = failingRemovals.find(item);
+        if (failing != failingRemovals.end() || !exists(item)) {
+            return failure(item, failing == failingRemovals.end() ? ENOENT : failing->second);
+        }
+        for (const Path& inside : std::vector(items_)) {
+            if (inside.parent_path() == item) {
+                if (auto removed = removeItem(inside); !removed) {
+                    return removed;
+                }
+            }
+        }
+        std::erase(items_, item);
+        folders_.erase(item);
+        journal_.add("remove " + item.string());
+        return {};
+    }
+
+    /// The folders above are made where they are missing.
+    void addFile(const Path& file)
+    {
+        const Path folder = file.parent_path();
+        if (folder.has_relative_path() && !exists(folder)) {
+            addFile(folder);
+        }
+        folders_.insert(folder);
+        items_.push_back(file);
+    }
+
+    [[nodiscard]] bool exists(const Path& item) const
+    {
+        return std::find(items_.begin(), items_.end(), item) != items_.end();
+    }
+
+    std::vector<Path> caches{"/home/student/.cache"};
+    /// Removals that fail, with this error code.
+    std::map<Path, int> failingRemovals;
+
+private:
+    static PlatformError failure(const Path& item, int code)
+    {
+        return platformError("posix", code, item.string(), "error " + std::to_string(code));
+    }
+
+    Journal& journal_;
+    std::vector<Path> items_;
+    std::set<Path> folders_;
+};
+
+} // namespace orken::simulated

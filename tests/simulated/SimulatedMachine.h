@@ -1,0 +1,61 @@
+#pragma once
+
+#include "platform/BundleInfo.h"
+#include "platform/Console.h"
+#include "platform/CookieStorage.h"
+#include "platform/HardwareRegistry.h"
+#include "platform/Screens.h"
+#include "simulated/Journal.h"
+
+#include <map>
+#include <optional>
+#include <string>
+
+namespace orken::simulated {
+
+class SimulatedConsole final : public Console {
+public:
+    explicit SimulatedConsole(Journal& journal) : journal_(journal) {}
+
+    void printLine(std::string_view line) override { journal_.add("print " + std::string(line)); }
+
+private:
+    Journal& journal_;
+};
+
+class SimulatedHardware final : public HardwareRegistry {
+public:
+    [[nodiscard]] std::optional<std::string> platformExpertSerial() const override { return serial; }
+
+    std::optional<std::string> serial = "C02ABC123XYZ\n";
+};
+
+class SimulatedBundle final : public BundleInfo {
+public:
+    [[nodiscard]] InfoValue infoValue(const std::string& key) const override
+    {
+        const auto place = values.find(key);
+        return place == values.end() ? InfoValue() : place->second;
+    }
+
+    std::map<std::string, InfoValue> values{{kBundleShortVersionKey, InfoValue("2.1")}};
+};
+
+class SimulatedScreens final : public Screens {
+public:
+    [[nodiscard]] std::optional<Rect> mainScreenFrame() const override { return frame; }
+
+    std::optional<Rect> frame = Rect{.x = 0, .y = 0, .width = 1920, .height = 1080};
+};
+
+class SimulatedCookies final : public CookieStorage {
+public:
+    explicit SimulatedCookies(Journal& journal) : journal_(journal) {}
+
+    void removeAllCookies() override { journal_.add("remove cookies"); }
+
+private:
+    Journal& journal_;
+};
+
+} // namespace orken::simulated

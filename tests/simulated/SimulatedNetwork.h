@@ -1,0 +1,73 @@
+#pragma once
+
+#include "foundation/Url.h"
+#include "platform/ContentsReader.h"
+#include "platform/UrlSession.h"
+#include "simulated/Journal.h"
+#include "simulated/MainLoop.h"
+
+#include <map>
+#include <string>
+
+namespace orken::simulated {
+
+/// What a server does with a request.
+struct Route {
+    std::string body;
+    int statusCode = 200;
+    std::string mimeType = "text/plain";
+    /// There is no answer at all.
+    std::optional<PlatformError> error;
+    Seconds delay{0};
+    /// What happens elsewhere while a blocking read waits for the answer.
+    std::function<void()> meanwhile;
+};
+
+/// The network of the URL session and the blocking read. Connections to addresses without a route are refused.
+class SimulatedNetwork final : public UrlSession, public ContentsReader {
+public:
+    SimulatedNetwork(MainLoop& loop, Journal& journal) : loop_(loop), journal_(journal) {}
+
+    void startDataTask(const std::string& url, std::function<void(DataTaskResult)> completion) override
+    {
+        const Route route = request(url);
+        DataTaskResult result{.error = route.error};
+        if (!route.error) {
+            result.data = toBytes(route.body);
+            result.response = UrlResponse{.statusCode = route.statusCode, .mimeType = route.mimeType};
+        }
+        loop_.later(route.delay, [this, result, completion = std::move(completion)] {
+            loop_.addBackgroundJob([result, completion] { completion(result); });
+        });
+    }
+
+    [[nodiscard]] Outcome<std::string> readText(const std::string& url) override
+    {
+        loop_.requireMainThread();
+        const Route route = request(url);
+        loop_.block(route.delay);
+        if (route.meanwhile) {
+            route.meanwhile();
+        }
+        return route.error ? Outcome<std::string>(*route.error) : route.body;
+    }
+
+    std::map<std::string, Route> routes;
+
+private:
+    [[nodiscard]] Route request(const std::string& url)
+    {
+        const auto address = parseUrl(url);
+        if (!address || (address->scheme != "http" && address->scheme != "https")) {
+            return {.error = platformError("network", 1, url, "unsupported address")};
+        }
+        journal_.add("GET " + url);
+        const auto place = routes.find(url);
+        return place != routes.end() ? place->second : Route{.error = platformError("network", 2, url, "refused")};
+    }
+
+    MainLoop& loop_;
+    Journal& journal_;
+};
+
+} // namespace orken::simulated

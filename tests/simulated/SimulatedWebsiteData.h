@@ -1,0 +1,55 @@
+#pragma once
+
+#include "platform/WebsiteDataStore.h"
+#include "simulated/Journal.h"
+#include "simulated/MainLoop.h"
+
+#include <deque>
+
+namespace orken::simulated {
+
+/// What the sites have left behind. Requests are carried out on a later turn.
+class SimulatedWebsiteData final : public WebsiteDataStore {
+public:
+    SimulatedWebsiteData(MainLoop& loop, Journal& journal) : journal_(journal)
+    {
+        loop.addSource([this] { return finish(); });
+    }
+
+    void fetchDataRecords(WebsiteDataTypes, std::function<void(std::vector<WebsiteDataRecord>)> completion) override
+    {
+        pending_.emplace_back([this, completion = std::move(completion)] { completion(records); });
+    }
+
+    void removeData(WebsiteDataTypes types, const std::vector<WebsiteDataRecord>& removed,
+                    std::function<void()> completion) override
+    {
+        pending_.emplace_back([this, types, removed, completion = std::move(completion)] {
+            for (const WebsiteDataRecord& record : removed) {
+                journal_.add("remove data of " + record.displayName + " types " + std::to_string(types));
+                std::erase_if(records, [&](const auto& one) { return one.displayName == record.displayName; });
+            }
+            completion();
+        });
+    }
+
+    /// What was begun runs to its end; says whether there was something.
+    bool finish()
+    {
+        const bool worked = !pending_.empty();
+        while (!pending_.empty()) {
+            const auto step = std::move(pending_.front());
+            pending_.pop_front();
+            step();
+        }
+        return worked;
+    }
+
+    std::vector<WebsiteDataRecord> records;
+
+private:
+    Journal& journal_;
+    std::deque<std::function<void()>> pending_;
+};
+
+} // namespace orken::simulated

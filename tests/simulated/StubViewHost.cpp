@@ -1,0 +1,180 @@
+#include "simulated/StubViewHost.h"
+
+#include "simulated/Require.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace orken::simulated {
+
+namespace {
+
+bool runAll(std::vector<std::function<void()>>& callbacks)
+{
+    const auto due = std::exchange(callbacks, {});
+    for (const auto& callback : due) {
+        callback();
+    }
+    return !due.empty();
+}
+
+} // namespace
+
+void StubViewHost::apply(const Mutations& mutations, ViewEvents& events)
+{
+    require(!mutations.empty(), "apply without a mutation");
+    events_ = &events;
+    mutationCount_ += mutations.size();
+    for (const Mutation& step : mutations) {
+        std::visit([this](const auto& change) { take(change); }, step);
+    }
+    for (const auto& [id, node] : nodes_) {
+        require(id == kRootContainer || node.parent, "a node was created and not inserted");
+    }
+}
+
+void StubViewHost::take(const mutation::Create& step)
+{
+    const Element& element = step.node->element;
+    require(!element.isEmpty(), "an empty element is nothing in the toolkit");
+    Node node{.content = element.content(), .modifiers = element.modifiers()};
+    if (step.node->representation) {
+        node.view = step.node->representation->platformView();
+        require(!findIf([&](const Node& other) { return other.view == node.view; }), "a native view in two places");
+    }
+    require(nodes_.try_emplace(step.node->id, std::move(node)).second, "a node was created twice");
+}
+
+void StubViewHost::take(const mutation::Delete& step)
+{
+    const Node& node = at(step.id);
+    require(step.id != kRootContainer && !node.parent && node.children.empty(), "a node in use was deleted");
+    nodes_.erase(step.id);
+}
+
+void StubViewHost::take(const mutation::Insert& step)
+{
+    auto& siblings = at(step.parent).children;
+    require(!at(step.child).parent, "a node was inserted twice");
+    require(step.index <= siblings.size(), "an insertion beyond the end");
+    at(step.child).parent = step.parent;
+    siblings.insert(siblings.begin() + static_cast<std::ptrdiff_t>(step.index), step.child);
+}
+
+void StubViewHost::take(const mutation::Remove& step)
+{
+    require(at(step.child).parent == step.parent, "a node was removed from a parent that is not its own");
+    at(step.child).parent.reset();
+    std::erase(at(step.parent).children, step.child);
+}
+
+void StubViewHost::take(const mutation::Update& step)
+{
+    Node& node = at(step.after->id);
+    const Element& before = step.before->element;
+    const Element& after = step.after->element;
+    require(node.content == before.content() && node.modifiers == before.modifiers(), "an update of something else");
+    require(sameIdentity(before, after) && !sameAppearance(before, after), "this is no update");
+    node.content = after.content();
+    node.modifiers = after.modifiers();
+}
+
+bool StubViewHost::redraw()
+{
+    return runAll(beforeFrame_);
+}
+
+bool StubViewHost::runFrame()
+{
+    const bool redrawn = redraw();
+    return runAll(afterFrame_) || redrawn;
+}
+
+StubViewHost::Node& StubViewHost::at(NodeId id)
+{
+    const auto place = nodes_.find(id);
+    require(place != nodes_.end(), "there is no such node");
+    return place->second;
+}
+
+std::vector<StubViewHost::Rendered> StubViewHost::render(NodeId parent) const
+{
+    std::vector<Rendered> result;
+    for (const NodeId id : nodes_.at(parent).children) {
+        const Node& node = nodes_.at(id);
+        result.push_back({.content = node.content, .modifiers = node.modifiers, .children = render(id)});
+    }
+    return result;
+}
+
+template <class Test>
+std::optional<NodeId> StubViewHost::findIf(const Test& test) const
+{
+    const auto place =
+        std::find_if(nodes_.begin(), nodes_.end(), [&](const auto& entry) { return test(entry.second); });
+    return place == nodes_.end() ? std::nullopt : std::optional(place->first);
+}
+
+std::optional<NodeId> StubViewHost::find(const std::string& text) const
+{
+    return findIf([&](const Node& node) { return node.content == Content(TextContent{.text = text}); });
+}
+
+NodeId StubViewHost::idOf(const std::string& text) const
+{
+    const auto id = find(text);
+    require(id.has_value(), "nothing shows the text " + text);
+    return *id;
+}
+
+bool StubViewHost::isUsable(const PlatformView& view) const
+{
+    const auto id = findIf([&](const Node& node) { return node.view.get() == &view; });
+    return id && isUsable(*id);
+}
+
+bool StubViewHost::isUsable(NodeId id) const
+{
+    const Node& node = nodes_.at(id);
+    return node.modifiers.enabled && node.modifiers.opacity > 0 && (!node.parent || isUsable(*node.parent));
+}
+
+void StubViewHost::press(const std::string& text)
+{
+    auto button = std::optional(idOf(text));
+    while (button && !std::holds_alternative<ButtonContent>(nodes_.at(*button).content)) {
+        button = nodes_.at(*button).parent;
+    }
+    require(button && isUsable(*button), "this is no button that can be pressed: " + text);
+    events_->pressed(*button);
+}
+
+std::optional<AlertContent> StubViewHost::alert() const
+{
+    const auto id = findIf([](const Node& node) { return node.modifiers.alert.has_value(); });
+    return id ? nodes_.at(*id).modifiers.alert : std::nullopt;
+}
+
+void StubViewHost::answerAlert(const std::string& title)
+{
+    const auto id = findIf([](const Node& node) { return node.modifiers.alert.has_value(); });
+    require(id.has_value(), "there is no alert to answer");
+    const auto buttons = alert()->buttons;
+    const auto place =
+        std::find_if(buttons.begin(), buttons.end(), [&](const auto& one) { return one.title == title; });
+    require(place != buttons.end(), "the alert has no button " + title);
+    events_->alertAnswered(*id, static_cast<std::size_t>(place - buttons.begin()));
+}
+
+void StubViewHost::layOut(Size size)
+{
+    // Events only mark: the nodes stay what they are here.
+    for (const auto& [id, node] : nodes_) {
+        const auto* nested = std::get_if<NestedContent>(&node.content);
+        if (nested && nested->readsGeometry) {
+            events_->resized(id, size);
+        }
+    }
+}
+
+} // namespace orken::simulated

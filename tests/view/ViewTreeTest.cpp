@@ -1,0 +1,280 @@
+#include "view/Screen.h"
+
+#include <gmock/gmock.h>
+
+namespace orken {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using Lines = std::vector<std::string>;
+
+TEST(ViewTree, aConditionKeepsItsPlaceSoNeighboursStayWhatTheyAre)
+{
+    bool covered = false;
+    Screen screen([&] { return ZStack({Text("below"), When(covered, [] { return Text("cover"); }), Text("above")}); });
+    const auto below = screen.host.idOf("below");
+    const auto above = screen.host.idOf("above");
+    for (const bool now : {true, false, true}) {
+        covered = now;
+        screen.redraw();
+        EXPECT_EQ(screen.host.shows("cover"), now);
+        EXPECT_EQ(screen.host.idOf("below"), below);
+        EXPECT_EQ(screen.host.idOf("above"), above);
+    }
+}
+
+TEST(ViewTree, keysFollowTheirElementsToOtherPlaces)
+{
+    Lines order{"a", "b", "c"};
+    Screen screen([&] {
+        std::vector<Element> children;
+        for (const auto& one : order) {
+            children.push_back(Text(one).key(one));
+        }
+        return VStack(std::move(children));
+    });
+    const auto a = screen.host.idOf("a");
+    const auto c = screen.host.idOf("c");
+    order = {"c", "new", "a"};
+    screen.redraw();
+    EXPECT_EQ(screen.host.idOf("a"), a);
+    EXPECT_EQ(screen.host.idOf("c"), c);
+}
+
+TEST(ViewTree, appearActionsRunAfterTheFrameChildrenBeforeParents)
+{
+    Lines log;
+    bool there = true;
+    auto logs = [&](const char* line) { return [&log, line] { log.emplace_back(line); }; };
+    Screen screen([&] {
+        return VStack({
+                          When(there,
+                               [&] { return VStack({Text("x").onAppear(logs("child"))}).onAppear(logs("parent")); }),
+                          Text("beside").onAppear(logs("beside")),
+                      })
+            .onAppear(logs("root"));
+    });
+    EXPECT_THAT(log, IsEmpty());
+    screen.host.redraw();
+    EXPECT_THAT(log, IsEmpty()) << "nothing has been on the screen yet";
+    screen.host.runFrame();
+    EXPECT_THAT(log, ElementsAre("child", "parent", "beside", "root"));
+
+    log.clear();
+    there = false;
+    screen.redraw();
+    EXPECT_THAT(log, IsEmpty());
+    there = true;
+    screen.redraw();
+    EXPECT_THAT(log, ElementsAre("child", "parent")) << "each time it comes onto the screen";
+}
+
+TEST(ViewTree, whatHasVanishedBeforeItsFrameNeverAppears)
+{
+    Lines log;
+    bool there = true;
+    auto view = std::make_unique<TestView>(
+        [&] { return VStack({When(there, [&] { return Text("x").onAppear([&] { log.emplace_back("x"); }); })}); });
+    const auto mark = view->invalidation();
+    Screen screen(std::move(view));
+    there = false;
+    mark->mark();
+    screen.host.runFrame();
+    EXPECT_THAT(log, IsEmpty());
+}
+
+TEST(ViewTree, anActionThatEndsItsOwnTreeRunsToItsEnd)
+{
+    std::optional<State<int>> state;
+    std::shared_ptr<ViewTree>* handle = nullptr;
+    auto view = std::make_unique<TestView>([&] {
+        return Button("close", [&] {
+            (*handle)->detach();
+            handle->reset();
+            state->set(1); // the view's own members are still there
+        });
+    });
+    state = view->makeState(0);
+    auto tree = std::make_unique<simulated::StubViewHost>();
+    auto kept = ViewTree::make(*tree, std::move(view));
+    handle = &kept;
+    tree->press("close");
+    EXPECT_EQ(state->get(), 1);
+    EXPECT_FALSE(tree->runFrame()) << "a detached tree draws nothing";
+}
+
+class Counted final : public View {
+public:
+    Counted(int& alive, int initial) : alive_(alive), value(makeState(initial)), own(makeState(0)) { ++alive_; }
+
+    ~Counted() override { --alive_; }
+
+    [[nodiscard]] Element body() override
+    {
+        return Button("value " + std::to_string(value.get()) + " own " + std::to_string(own.get()),
+                      [this] { own.set(own.get() + 1); });
+    }
+
+private:
+    int& alive_;
+
+public:
+    State<int> value;
+    State<int> own;
+};
+
+TEST(ViewTree, aNestedViewIsMadeOnceKeepsItsStateAndGetsTheNewestValue)
+{
+    int alive = 0;
+    int made = 0;
+    int value = 1;
+    Screen screen([&] {
+        return VStack({When(value > 0, [&] {
+            return Nested<Counted>(
+                [&] {
+                    ++made;
+                    return std::make_unique<Counted>(alive, value);
+                },
+                [value](Counted& view) { view.value.set(value); });
+        })});
+    });
+    screen.host.press("value 1 own 0");
+    screen.host.runFrame();
+    value = 2;
+    screen.redraw();
+    EXPECT_TRUE(screen.host.shows("value 2 own 1"));
+    EXPECT_EQ(made, 1);
+    value = 0;
+    screen.redraw();
+    EXPECT_EQ(alive, 0);
+    value = 3;
+    screen.redraw();
+    EXPECT_TRUE(screen.host.shows("value 3 own 0"));
+}
+
+struct Native final : PlatformView {
+    [[nodiscard]] void* native() override { return this; }
+};
+
+class Bridge {
+public:
+    explicit Bridge(Lines& log) : log_(log) {}
+
+    [[nodiscard]] std::shared_ptr<int> makeCoordinator() const
+    {
+        log_.emplace_back("coordinator");
+        return std::make_shared<int>(1);
+    }
+
+    [[nodiscard]] std::shared_ptr<Native> makeNSView(const RepresentableContext<int>&) const
+    {
+        log_.emplace_back("view");
+        return std::make_shared<Native>();
+    }
+
+    void updateNSView(Native&, const RepresentableContext<int>& context) const
+    {
+        log_.push_back("update " + std::to_string((*context.coordinator)++));
+    }
+
+private:
+    Lines& log_;
+};
+
+TEST(ViewTree, aRepresentableIsMadeOnceAndUpdatedOnEveryRedrawOfItsView)
+{
+    Lines log;
+    std::optional<State<int>> beside;
+    Screen screen([&] {
+        return ZStack({
+            Representable<Bridge>([&] { return std::make_unique<Bridge>(log); }),
+            Nested<TestView>([&] {
+                auto view = std::make_unique<TestView>([&] { return Text(std::to_string(beside->get())); });
+                beside = view->makeState(0);
+                return view;
+            }),
+        });
+    });
+    EXPECT_THAT(log, ElementsAre("coordinator", "view", "update 1"));
+    screen.redraw();
+    EXPECT_THAT(log, ElementsAre("coordinator", "view", "update 1", "update 2"));
+    beside->set(1);
+    screen.host.runFrame();
+    EXPECT_EQ(log.size(), 4U) << "only another view was redrawn";
+}
+
+TEST(ViewTree, receiversKeepTheirSubjectGetTheNewestHandlerAndEndWithTheElement)
+{
+    Lines log;
+    int drawing = 0;
+    const auto first = std::make_shared<Subject<int>>();
+    const auto second = std::make_shared<Subject<int>>();
+    auto source = first;
+    Screen screen([&] {
+        ++drawing;
+        return VStack({When(source != nullptr, [&] {
+            return Text("").onReceive(source, std::function<void(int)>([&log, drawing](int value) {
+                                          log.push_back(std::to_string(drawing) + ":" + std::to_string(value));
+                                      }));
+        })});
+    });
+    first->send(5);
+    screen.redraw();
+    first->send(6);
+    EXPECT_EQ(first->subscriberCount(), 1U);
+    source = second;
+    screen.redraw();
+    first->send(7);
+    second->send(8);
+    EXPECT_THAT(log, ElementsAre("1:5", "2:6", "3:8"));
+    source = nullptr;
+    screen.redraw();
+    EXPECT_EQ(first->subscriberCount() + second->subscriberCount(), 0U);
+}
+
+TEST(ViewTree, anAlertFollowsItsCellAndAnAnswerClearsTheCellBeforeItActs)
+{
+    Lines log;
+    std::optional<State<bool>> shown;
+    auto view = std::make_unique<TestView>([&] {
+        auto say = [&](const char* line) {
+            return [&log, &shown, line] { log.push_back(line + std::string(shown->get() ? " up" : " down")); };
+        };
+        return Text("").alert(*shown, {.title = "t",
+                                       .message = "m",
+                                       .buttons = {{.title = "yes", .role = ButtonRole::normal, .action = say("yes")},
+                                                   {.title = "no", .role = ButtonRole::cancel, .action = say("no")}}});
+    });
+    shown = view->makeState(false);
+    Screen screen(std::move(view));
+    EXPECT_FALSE(screen.host.alert());
+    shown->set(true);
+    screen.host.runFrame();
+    ASSERT_TRUE(screen.host.alert());
+    EXPECT_EQ(screen.host.alert()->message, "m");
+    screen.host.answerAlert("no");
+    screen.host.runFrame();
+    EXPECT_FALSE(screen.host.alert());
+    EXPECT_THAT(log, ElementsAre("no down"));
+}
+
+TEST(ViewTree, aGeometryReaderFollowsItsSizeAndTheNewestDescription)
+{
+    std::string unit = "pt";
+    Screen screen([&] {
+        return GeometryReader([unit](Size size) { return Text(std::to_string(static_cast<int>(size.width)) + unit); });
+    });
+    EXPECT_TRUE(screen.host.shows("0pt"));
+    screen.host.layOut({.width = 640, .height = 480});
+    screen.host.runFrame();
+    EXPECT_TRUE(screen.host.shows("640pt"));
+    unit = "px";
+    screen.redraw();
+    EXPECT_TRUE(screen.host.shows("640px"));
+    screen.host.layOut({.width = 640, .height = 480});
+    EXPECT_FALSE(screen.host.runFrame());
+}
+
+} // namespace
+} // namespace orken
