@@ -11,7 +11,7 @@ import sys
 import time
 import urllib.parse
 
-from harness.client import USER_AGENT, header
+from harness.client import USER_AGENT
 from virtual_desktop import Client, NotReached, Provider, VirtualDesktop
 
 _ROOT = pathlib.Path(__file__).resolve().parent.parent
@@ -44,7 +44,7 @@ class Tour:
         return self._picture("login")
 
     def login_request(self):
-        login = next(request for request in self._provider.requests() if request["path"] == "//accounts/login")
+        login = self._provider.wait_for_request("//accounts/login", lambda r: r["path"] == "//accounts/login", limit=5.0)
         query = urllib.parse.parse_qs(login["query"], keep_blank_values=True)
         _expect(list(query) == ["param", "xppKey"], f"login query is {login['query']!r}")
         _expect(all(values[0] for values in query.values()), f"empty value in login query {login['query']!r}")
@@ -52,7 +52,7 @@ class Tour:
 
     def user_agent(self):
         """The client's own downloads name no user agent; whatever a page asks for must name this one."""
-        agents = {request["path"]: header(request, "User-Agent") for request in self._provider.requests()}
+        agents = {request["path"]: request["headers"].get("user-agent") for request in self._provider.requests()}
         for path in ("//accounts/login", "/demo/finished"):
             _expect(agents.get(path) == USER_AGENT, f"{path} came with user agent {agents.get(path)!r}")
         wrong = {path: agent for path, agent in agents.items() if agent not in (None, USER_AGENT)}

@@ -62,8 +62,3 @@ class Client:
     def _start_buttons(self):
         buttons = self._screen.image().find_rectangles(_BUTTON_COLOUR, 4, *_BUTTON_SIZE)
         return buttons if len(buttons) == 2 else None
-
-
-def header(request, name):
-    """A header of a logged request, or None; names are compared without case."""
-    return next((value for key, value in request["headers"].items() if key.lower() == name.lower()), None)

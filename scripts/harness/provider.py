@@ -18,7 +18,8 @@ class Provider:
         self._log = os.path.join(self.folder, "requests.log")
         certificates = os.path.join(self.folder, "certificates")
         os.mkdir(certificates)
-        command = [program, "--ready-file", self.ready_file, "--log", self._log, "--certificates", certificates]
+        command = [program, "--ready-file", self.ready_file, "--log", self._log]
+        command += ["--certificates", certificates, "--port", "0"]
         self.guest = desktop.spawn(command + list(options), name="provider")
         self.ready = wait_for("the provider's ready file", self._read_ready_file, 30.0, guests=[self.guest])
 
@@ -28,13 +29,18 @@ class Provider:
         return f"{self.ready['host']}:{self.ready['port']}"
 
     def requests(self, since=0.0):
-        """Logged requests from the moment `since` of the monotonic clock on, oldest first."""
+        """Logged requests that came from the moment `since` of the monotonic clock on, in the order of their answers.
+
+        Each is a dictionary: t (seconds), method, path, query (empty when there is none), headers (names in lower
+        case), status and server.
+        """
         try:
             with open(self._log, encoding="utf-8") as file:
                 lines = file.read().split("\n")[:-1]
         except FileNotFoundError:
             return []
-        return [entry for entry in map(json.loads, lines) if entry["t"] >= since]
+        entries = [entry for entry in map(json.loads, lines) if entry["t"] >= since]
+        return [{**entry, "query": entry["query"] or ""} for entry in entries]
 
     def wait_for_request(self, what, matches, since=0.0, limit=60.0, guests=()):
         """The first request from `since` on for which `matches` is true."""

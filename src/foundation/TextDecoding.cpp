@@ -28,8 +28,8 @@ constexpr std::array<ByteOrderMark, 5> kByteOrderMarks{{{"\xEF\xBB\xBF"sv, "UTF-
 
 bool isKnownCharset(const std::string& charset)
 {
-    // To iconv no name is the locale's charset, and what follows a slash tells it to let errors pass.
-    if (charset.empty() || charset.find('/') != std::string::npos) {
+    // To iconv the empty name is the locale's charset.
+    if (charset.empty()) {
         return false;
     }
     const GIConv converter = g_iconv_open("UTF-8", charset.c_str());
@@ -41,6 +41,7 @@ bool isKnownCharset(const std::string& charset)
     return true;
 }
 
+/// Without the mark, which goes when the converted bytes become a text.
 std::optional<std::string> convert(std::string_view bytes, const char* charset)
 {
     gsize length = 0;
@@ -60,7 +61,7 @@ std::optional<std::string> decodeText(const Bytes& body, const std::optional<std
     }
     for (const ByteOrderMark& mark : kByteOrderMarks) {
         if (bytes.starts_with(mark.bytes)) {
-            return convert(bytes.substr(mark.bytes.size()), mark.charset);
+            return convert(bytes, mark.charset);
         }
     }
     if (charset && isKnownCharset(*charset)) {

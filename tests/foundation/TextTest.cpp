@@ -34,7 +34,7 @@ TEST(Text, trimmingTakesUnicodeWhiteSpaceFromBothEndsOnly)
         {"\u0085\u1680\u3000a \u2003b\u202F\u205F\u2029\v", "a \u2003b"},
         {"\u200Bx\uFEFF", "\u200Bx\uFEFF"},
         {"\u180Ex", "\u180Ex"},
-        {"x\xA0", "x\xA0"},
+        {"x \xA0 ", "x \xA0"},
         {"\x80\x80\x80\x80\x80 ", "\x80\x80\x80\x80\x80"}};
     for (const auto& [text, expected] : cases) {
         EXPECT_EQ(trimmed(text), expected) << text;
@@ -66,7 +66,7 @@ TEST(Text, responsesAreDecodedByMarkThenCharsetThenUtf8)
 
     const Case cases[] = {{"", {}, ""},
                           {"\xEF\xBB\xBF\xC3\x96", "iso-8859-9", "Ö"},
-                          {"\xEF\xBB\xBF", {}, ""},
+                          {"\xEF\xBB\xBF\xEF\xBB\xBF", {}, "\uFEFF"},
                           {"\xFE\xFF\0\xD6"sv, {}, "Ö"},
                           {"\xFF\xFE\xD6\0"sv, "utf-8", "Ö"},
                           {"\xFF\xFE\0\0\xD6\0\0\0"sv, {}, "Ö"},
@@ -75,7 +75,6 @@ TEST(Text, responsesAreDecodedByMarkThenCharsetThenUtf8)
                           {"\xF0", "ISO-8859-9", "ğ"},
                           {"\xF0", {}, {}},
                           {"\xF0", "utf-8", {}},
-                          {"a\xF0", "utf-8//IGNORE", {}},
                           {"\xC3\x96", "no-such-charset", "Ö"},
                           {"\xC3\x96", "", "Ö"},
                           {"\xC3\x96", "us-ascii", {}}};

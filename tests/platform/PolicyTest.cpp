@@ -1,7 +1,6 @@
 #include "platform/AlertStack.h"
 #include "platform/BundleInfo.h"
 #include "platform/FullScreenTransition.h"
-#include "platform/NotificationCenter.h"
 #include "platform/TimerGrid.h"
 #include "simulated/SimulatedMachine.h"
 
@@ -94,24 +93,6 @@ TEST(AlertStack, theFirstAnswerCountsAndTheProgramCanEndWhatHasNone)
     EXPECT_EQ(stack.result(inner), 1002);
     stack.pop(inner);
     EXPECT_EQ(stack.result(outer), -1001);
-}
-
-TEST(NotificationCenter, callsInOrderOfRegistrationAndNewcomersFromTheNextPostOn)
-{
-    NotificationCenter center;
-    std::string log;
-    const auto name = NotificationName::windowDidEnterFullScreen;
-    auto stream = center.publisher(name)->subscribe([&] { log += "s"; });
-    center.addObserver(name, [&] {
-        log += "a";
-        center.addObserver(name, [&] { log += "n"; });
-    });
-    center.post(NotificationName::windowWillExitFullScreen);
-    center.post(name);
-    EXPECT_EQ(log, "sa");
-    stream.cancel();
-    center.post(name);
-    EXPECT_EQ(log, "saan");
 }
 
 TEST(BundleInfo, onlyATextIsAVersion)

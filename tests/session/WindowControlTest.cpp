@@ -69,28 +69,20 @@ TEST(WindowControl, theFirstWindowEntersOnceAndTheLastIsToggledWhateverItsState)
     EXPECT_TRUE(isFull(first));
 }
 
-TEST(WindowControl, aSoleWindowIgnoresTheToggleThatMeetsItsWayIn)
+TEST(WindowControl, theToggleThatMeetsTheSessionsWayInChangesNothing)
 {
-    Bed bed;
-    const auto window = bed.window("W");
-    bed.control.enterFullScreen(bed.isFullScreen);
-    bed.control.toggleFullScreen();
-    bed.desktop.loop.advance(Seconds{1});
-    EXPECT_TRUE(isFull(window));
-    EXPECT_THAT(bed.desktop.journal.acts(), ElementsAre("enter full screen W"));
-}
-
-TEST(WindowControl, behindThePermanentPanelTheSessionNeverLeavesFullScreen)
-{
-    Bed bed(simulated::DesktopOptions{});
-    const auto window = bed.window("W");
-    bed.control.enterFullScreen(bed.isFullScreen);
-    bed.desktop.loop.advance(Seconds{1});
-    bed.control.closeOtherWindows();
-    bed.control.toggleFullScreen();
-    bed.desktop.loop.advance(Seconds{1});
-    EXPECT_TRUE(isFull(window));
-    EXPECT_THAT(bed.desktop.journal.acts(), ElementsAre("enter full screen W"));
+    for (const bool withPanel : {false, true}) {
+        Bed bed({.permanentPanel = withPanel});
+        const auto window = bed.window("W");
+        bed.control.enterFullScreen(bed.isFullScreen);
+        bed.control.closeOtherWindows();
+        bed.control.toggleFullScreen();
+        bed.desktop.loop.advance(Seconds{1});
+        EXPECT_TRUE(isFull(window));
+        bed.control.toggleFullScreen();
+        bed.desktop.loop.advance(Seconds{1});
+        EXPECT_EQ(isFull(window), withPanel) << "behind the panel the session is never the last window";
+    }
 }
 
 TEST(WindowControl, closesEveryVisibleWindowButTheFirstInTheList)
