@@ -59,6 +59,13 @@ class Tour:
         _expect(not wrong, f"other user agents: {wrong}")
         return f"{len(agents)} addresses"
 
+    def sign_in(self):
+        """The page has the keyboard and its form has the focus, so a user only types."""
+        began = time.monotonic()
+        self._desktop.screen.type("öğrenci\tgizli\n")
+        self._provider.wait_for_page("session", since=began, guests=[self._client.guest])
+        return self._picture("signed-in")
+
     def end(self):
         status = self._client.guest.terminate()
         _expect(status == 0, f"the client ended with status {status}")
@@ -87,6 +94,7 @@ STEPS = (
     ('"Uygulamayı Aç" leads to the login page in full screen', Tour.login_page),
     ("the login request carries param and xppKey", Tour.login_request),
     ("pages are asked for with the client's user agent", Tour.user_agent),
+    ("a typed name and password sign in", Tour.sign_in),
     ("SIGTERM ends the client in order", Tour.end),
 )
 

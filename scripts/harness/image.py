@@ -12,6 +12,14 @@ class Rectangle(NamedTuple):
     height: int
 
     @property
+    def right(self):
+        return self.x + self.width
+
+    @property
+    def bottom(self):
+        return self.y + self.height
+
+    @property
     def centre(self):
         return self.x + self.width // 2, self.y + self.height // 2
 
@@ -54,7 +62,7 @@ class Image:
         found = []
         for y in range(self.height):
             for left, right in self._runs(mask, y, min_width):
-                if any(f.y <= y < f.y + f.height and f.x <= left < f.x + f.width for f in found):
+                if any(f.y <= y < f.bottom and f.x <= left < f.right for f in found):
                     continue
                 height = self._depth(mask, y, left, right)
                 if height >= min_height:

@@ -6,6 +6,7 @@ import time
 from .xlib import X11, XTST
 
 _MODIFIERS = {"shift": "Shift_L", "ctrl": "Control_L", "alt": "Alt_L", "super": "Super_L"}
+_KEYS = {"\n": "Return", "\t": "Tab"}
 _SETTLE = 0.2
 _BETWEEN_KEYS = 0.01
 
@@ -34,7 +35,7 @@ class Keyboard:
 
     def _stroke(self, character):
         """Key codes to hold together for one character."""
-        symbol = _symbol("Return" if character == "\n" else f"U{ord(character):04X}")
+        symbol = _symbol(_KEYS.get(character, f"U{ord(character):04X}"))
         code = X11.XKeysymToKeycode(self._display, symbol)
         if code and X11.XkbKeycodeToKeysym(self._display, code, 0, 0) == symbol:
             return [code]

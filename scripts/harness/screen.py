@@ -61,7 +61,13 @@ class Screen:
         """The window manager says so and the window covers the screen."""
         wanted = X11.XInternAtom(self._display, b"_NET_WM_STATE_FULLSCREEN", 0)
         states = xlib.numbers_property(self._display, window.id, "_NET_WM_STATE")
-        return wanted in states and self.geometry(window) == (0, 0, self.width, self.height)
+        return wanted in states and self._covers_screen(self.geometry(window))
+
+    def _covers_screen(self, area):
+        """A window that cannot become as small as the screen reaches beyond it."""
+        if area is None:
+            return False
+        return area.x <= 0 and area.y <= 0 and area.right >= self.width and area.bottom >= self.height
 
     def active_window(self):
         """The window with the keyboard, or None."""
@@ -101,7 +107,7 @@ class Screen:
         self._keyboard.press(combination)
 
     def type(self, text):
-        """Types `text` into what has the keyboard; any character, "\n" is Return."""
+        """Types `text` into what has the keyboard; any character; a line end is Return."""
         self._keyboard.type(text)
 
     def _flush(self, pause=0.0):

@@ -50,6 +50,7 @@ TEST(DataUrl, carriesItsBytesInBase64OrEscaped)
                           {"data:,a%20b%00,c"sv, std::string("a b\0,c"sv)},
                           {"data:text/plain;charset=x,QQ==#f", "QQ=="},
                           {"data:text/plain;base64;x=y,QQ==", "QQ=="},
+                          {"data:base64,QQ==", "QQ=="},
                           {"data:;base64,QQ=", {}},
                           {"data:;base64,Q Q==", {}},
                           {"data:;base64", {}},

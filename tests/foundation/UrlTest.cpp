@@ -47,6 +47,7 @@ TEST(Url, refusesWhatIsNoAbsoluteAddress)
         EXPECT_FALSE(parseUrl(std::string("http://") + authority + "/p")) << authority;
     }
     EXPECT_FALSE(parseUrl("a:\0"sv));
+    EXPECT_FALSE(parseUrl("a:%41"sv.substr(0, 4))) << "an escape that the text cuts off";
 }
 
 TEST(Url, schemeIsWhatStandsBeforeTheFirstColon)
