@@ -25,9 +25,9 @@ Element FirstView::body()
 {
     return VStack({
         VStack({
-            wideButton("Uygulamayı Aç", [this] { openApplication(); }),
-            wideButton("Uygulamadan Çık", [this] { quitApplication(ports_.application); }),
-        })
+                   wideButton("Uygulamayı Aç", [this] { openApplication(); }),
+                   wideButton("Uygulamadan Çık", [this] { quitApplication(ports_.application); }),
+               })
             .padding()
             .onAppear([this] { ports_.versionGate.checkAppVersion(appVersionMessage_, showUpdateAlert_); })
             .alert(showUpdateAlert_, ports_.versionGate.updateAlert(appVersionMessage_.get(), downloadURL_)),

@@ -4,7 +4,8 @@ namespace orken {
 
 void downloadBlob(BrowserView&, const NavigationAction&, std::function<void(NavigationPolicy)> decide)
 {
-    // Saving needs script evaluation, which the ports do not offer yet; the page must not leave for the blob in any case.
+    // Saving needs script evaluation, which the ports do not offer yet; the page must not leave for the blob in any
+    // case.
     decide(NavigationPolicy::cancel);
 }
 

@@ -30,9 +30,8 @@ std::shared_ptr<BrowserView> SwiftUIWebView::makeNSView(const Context& context)
     configuration.setAllowsLinkPreview(true);
     configuration.setAllowsContentJavaScript(true);
     configuration.setDeveloperExtrasEnabled(true);
-    configuration.addUserScript({.source = kContextMenuScript,
-                                 .injectionTime = ScriptInjectionTime::documentEnd,
-                                 .forMainFrameOnly = true});
+    configuration.addUserScript(
+        {.source = kContextMenuScript, .injectionTime = ScriptInjectionTime::documentEnd, .forMainFrameOnly = true});
     viewModel_->webView = webView_;
     return webView_;
 }

@@ -18,7 +18,8 @@ Element ContentView::body()
     auto sessionScreen = [this] {
         auto make = [this, link = makeLoginURL()] { return ports_.makeSessionScreen(link); };
         auto toggleLater = [this] {
-            ports_.mainQueue.after(kScreenChangeDelay, [&control = ports_.windowControl] { control.toggleFullScreen(); });
+            ports_.mainQueue.after(kScreenChangeDelay,
+                                   [&control = ports_.windowControl] { control.toggleFullScreen(); });
         };
         return Nested<View>(make)
             .frame({.minWidth = kMinimumWidth, .minHeight = kMinimumHeight})

@@ -223,7 +223,8 @@ private:
 [[nodiscard]] Element Spacer();
 [[nodiscard]] Element Button(Element label, std::function<void()> action);
 [[nodiscard]] Element Button(std::string title, std::function<void()> action);
-/// The element while the condition holds. It keeps its place when it is not there, so its neighbours stay what they are.
+/// The element while the condition holds. It keeps its place when it is not there, so its neighbours stay what they
+/// are.
 [[nodiscard]] Element When(bool condition, const std::function<Element()>& make);
 /// Content that depends on the room it is given; (0, 0) before the first layout.
 [[nodiscard]] Element GeometryReader(std::function<Element(Size)> content);

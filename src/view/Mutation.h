@@ -39,8 +39,7 @@ struct Update {
 
 } // namespace mutation
 
-using Mutation =
-    std::variant<mutation::Create, mutation::Delete, mutation::Insert, mutation::Remove, mutation::Update>;
+using Mutation = std::variant<mutation::Create, mutation::Delete, mutation::Insert, mutation::Remove, mutation::Update>;
 using Mutations = std::vector<Mutation>;
 
 } // namespace orken

@@ -15,6 +15,7 @@ namespace orken {
 class View {
 public:
     View() : invalidation_(std::make_shared<Invalidation>()) {}
+
     View(const View&) = delete;
     View& operator=(const View&) = delete;
     virtual ~View() = default;

@@ -25,12 +25,16 @@ public:
     [[nodiscard]] WindowStyleMask styleMask() const override { return windowStyle::kTitled; }
 
     void setTitle(const std::string&) override {}
+
     void center() override {}
+
     void makeKeyAndOrderFront() override {}
+
     void setContentView(std::unique_ptr<View>) override {}
 
     /// Panels have no full screen. A hidden one must not even be asked: the next alert would open in it.
     void toggleFullScreen() override {}
+
     void close() override;
 
 private:

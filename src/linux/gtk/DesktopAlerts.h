@@ -26,7 +26,10 @@ private:
 /// Application-modal alerts over GTK. Main thread only.
 class DesktopAlerts final : public Alerts {
 public:
-    DesktopAlerts(AlertStack& stack, DesktopWindows& windows, AlertGate& gate) : stack_(stack), windows_(windows), gate_(gate) {}
+    DesktopAlerts(AlertStack& stack, DesktopWindows& windows, AlertGate& gate)
+        : stack_(stack), windows_(windows), gate_(gate)
+    {
+    }
 
     [[nodiscard]] int runModal(const Alert& alert) override;
 

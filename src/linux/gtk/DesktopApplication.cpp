@@ -58,8 +58,8 @@ std::optional<int> DesktopApplication::launch(ApplicationDelegate& delegate, con
     }
     delegate_ = &delegate;
     group_ = group;
-    application_ = GObjectPtr<GtkApplication>::adopt(
-        gtk_application_new(identifier_.c_str(), G_APPLICATION_DEFAULT_FLAGS));
+    application_ =
+        GObjectPtr<GtkApplication>::adopt(gtk_application_new(identifier_.c_str(), G_APPLICATION_DEFAULT_FLAGS));
     auto* application = G_APPLICATION(application_.get());
     activated_ =
         SignalConnection::make<void(GApplication*)>(application, "activate", [this](GApplication*) { activate(); });

@@ -23,8 +23,7 @@ DesktopScreens::~DesktopScreens()
 void DesktopScreens::start()
 {
     listChanged_ = SignalConnection::make<void(GListModel*, guint, guint, guint)>(
-        gdk_display_get_monitors(gdk_display_get_default()), "items-changed",
-        [this](GListModel*, guint, guint, guint) {
+        gdk_display_get_monitors(gdk_display_get_default()), "items-changed", [this](GListModel*, guint, guint, guint) {
             watchMonitors();
             changed();
         });

@@ -35,6 +35,7 @@ public:
     [[nodiscard]] AlertPanel& permanentPanel() { return *permanentPanel_; }
 
     [[nodiscard]] std::shared_ptr<AlertPanel> addPanel();
+
     void removePanel(const AlertPanel& panel) { registry_.remove(panel); }
 
     /// The visible product window that alerts stand over; null when there is none.

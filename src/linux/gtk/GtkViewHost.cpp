@@ -90,9 +90,10 @@ void GtkViewHost::showAlert(const RenderNode& node, ViewEvents& events)
 {
     alerts_.erase(node.id);
     if (const auto& alert = node.element.modifiers().alert) {
-        alerts_[node.id] = std::make_unique<WindowAlert>(
-            window_, *alert, alertGate_,
-            [&events, id = node.id](std::size_t button) { events.alertAnswered(id, button); });
+        alerts_[node.id] =
+            std::make_unique<WindowAlert>(window_, *alert, alertGate_, [&events, id = node.id](std::size_t button) {
+                events.alertAnswered(id, button);
+            });
     }
 }
 

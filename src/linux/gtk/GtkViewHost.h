@@ -18,7 +18,9 @@ public:
     ~GtkViewHost() override;
 
     void apply(const Mutations& mutations, ViewEvents& events) override;
+
     void beforeNextFrame(std::function<void()> callback) override { frames_.beforeNext(std::move(callback)); }
+
     void afterNextFrame(std::function<void()> callback) override { frames_.afterNext(std::move(callback)); }
 
 private:

@@ -17,11 +17,13 @@ public:
     [[nodiscard]] WindowStyleMask styleMask() const override { return windowStyle::kTitled; }
 
     void setTitle(const std::string&) override {}
+
     void center() override {}
 
     void makeKeyAndOrderFront() override { gtk_window_present(window_.get()); }
 
     void setContentView(std::unique_ptr<View>) override {}
+
     void toggleFullScreen() override {}
 
     /// Its own orderly close.

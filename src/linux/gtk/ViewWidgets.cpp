@@ -174,8 +174,8 @@ void ViewWidgets::applyText(const Element& element)
     if (modifiers.foreground) {
         const auto channel = [](double value) { return static_cast<guint16>(std::lround(value * 65535)); };
         const Color& color = *modifiers.foreground;
-        pango_attr_list_insert(attributes, pango_attr_foreground_new(channel(color.red), channel(color.green),
-                                                                     channel(color.blue)));
+        pango_attr_list_insert(
+            attributes, pango_attr_foreground_new(channel(color.red), channel(color.green), channel(color.blue)));
         pango_attr_list_insert(attributes, pango_attr_foreground_alpha_new(channel(color.alpha)));
     }
     gtk_label_set_attributes(GTK_LABEL(inner_), attributes);

@@ -14,16 +14,15 @@ using Answer = std::function<void(std::size_t)>;
 /// Escape presses one button; the controller owns what it needs for that.
 void pressOnEscape(GtkWindow* window, std::size_t button, const Answer& answer)
 {
-    auto* shortcut = gtk_shortcut_new(
-        gtk_keyval_trigger_new(GDK_KEY_Escape, GdkModifierType(0)),
-        gtk_callback_action_new(
-            [](GtkWidget*, GVariant*, gpointer data) -> gboolean {
-                const auto press = *static_cast<std::function<void()>*>(data);
-                press();
-                return TRUE;
-            },
-            new std::function<void()>([button, answer] { answer(button); }),
-            [](gpointer data) { delete static_cast<std::function<void()>*>(data); }));
+    auto* shortcut = gtk_shortcut_new(gtk_keyval_trigger_new(GDK_KEY_Escape, GdkModifierType(0)),
+                                      gtk_callback_action_new(
+                                          [](GtkWidget*, GVariant*, gpointer data) -> gboolean {
+                                              const auto press = *static_cast<std::function<void()>*>(data);
+                                              press();
+                                              return TRUE;
+                                          },
+                                          new std::function<void()>([button, answer] { answer(button); }),
+                                          [](gpointer data) { delete static_cast<std::function<void()>*>(data); }));
     GtkEventController* controller = gtk_shortcut_controller_new();
     gtk_shortcut_controller_add_shortcut(GTK_SHORTCUT_CONTROLLER(controller), shortcut);
     gtk_widget_add_controller(GTK_WIDGET(window), controller);
@@ -40,9 +39,8 @@ WindowAlert::WindowAlert(GtkWindow* parent, const AlertContent& content, WindowA
         widgets.buttons.push_back(button.title);
     }
     fillAlertWindow(window_, widgets, answer);
-    const auto cancel = std::find_if(content.buttons.begin(), content.buttons.end(), [](const auto& button) {
-        return button.role == ButtonRole::cancel;
-    });
+    const auto cancel = std::find_if(content.buttons.begin(), content.buttons.end(),
+                                     [](const auto& button) { return button.role == ButtonRole::cancel; });
     if (cancel != content.buttons.end()) {
         pressOnEscape(window_, static_cast<std::size_t>(cancel - content.buttons.begin()), answer);
     }
