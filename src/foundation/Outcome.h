@@ -13,9 +13,12 @@ namespace orken {
 template <class T>
 class [[nodiscard]] Outcome {
 public:
+    // Not explicit: an operation returns either of the two as it is.
+    // NOLINTBEGIN(google-explicit-constructor)
     Outcome(T value) : content_(std::in_place_index<0>, std::move(value)) {}
 
     Outcome(PlatformError error) : content_(std::in_place_index<1>, std::move(error)) {}
+    // NOLINTEND(google-explicit-constructor)
 
     explicit operator bool() const { return content_.index() == 0; }
 
@@ -48,6 +51,7 @@ class [[nodiscard]] Outcome<void> {
 public:
     Outcome() = default;
 
+    // NOLINTNEXTLINE(google-explicit-constructor)
     Outcome(PlatformError error) : error_(std::move(error)) {}
 
     explicit operator bool() const { return !error_; }

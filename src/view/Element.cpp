@@ -183,27 +183,27 @@ bool sameAppearance(const Element& left, const Element& right)
 
 Element Text(std::string text)
 {
-    return {TextContent{.text = std::move(text)}};
+    return Element(TextContent{.text = std::move(text)});
 }
 
 Element VStack(std::vector<Element> children, double spacing)
 {
-    return {StackContent{.axis = Axis::vertical, .spacing = spacing}, std::move(children)};
+    return Element(StackContent{.axis = Axis::vertical, .spacing = spacing}, std::move(children));
 }
 
 Element HStack(std::vector<Element> children, double spacing)
 {
-    return {StackContent{.axis = Axis::horizontal, .spacing = spacing}, std::move(children)};
+    return Element(StackContent{.axis = Axis::horizontal, .spacing = spacing}, std::move(children));
 }
 
 Element ZStack(std::vector<Element> children)
 {
-    return {LayersContent{}, std::move(children)};
+    return Element(LayersContent{}, std::move(children));
 }
 
 Element Spacer()
 {
-    return {SpacerContent{}};
+    return Element(SpacerContent{});
 }
 
 Element Button(Element label, std::function<void()> action)

@@ -151,7 +151,7 @@ class Element {
 public:
     Element() = default;
 
-    Element(Content content, std::vector<Element> children = {})
+    explicit Element(Content content, std::vector<Element> children = {})
         : content_(std::move(content)), children_(std::move(children))
     {
     }

@@ -74,6 +74,7 @@ template <class T>
 class WeakState {
 public:
     // Not explicit: a state cell is handed to such callbacks as it is.
+    // NOLINTNEXTLINE(google-explicit-constructor)
     WeakState(const State<T>& state) : cell_(state.cell_) {}
 
     /// Does nothing once the screen and its state are gone.

@@ -74,7 +74,9 @@ void StubViewHost::take(const mutation::Update& step)
     const Element& before = step.before->element;
     const Element& after = step.after->element;
     require(node.content == before.content() && node.modifiers == before.modifiers(), "an update of something else");
-    require(sameIdentity(before, after) && !sameAppearance(before, after), "this is no update");
+    const bool sameWidget = before.content().index() == after.content().index() &&
+                            before.modifiers().needsBox() == after.modifiers().needsBox();
+    require(sameWidget && !sameAppearance(before, after), "this is no update");
     node.content = after.content();
     node.modifiers = after.modifiers();
 }

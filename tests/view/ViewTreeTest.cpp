@@ -72,34 +72,34 @@ TEST(ViewTree, appearActionsRunAfterTheFrameChildrenBeforeParents)
 
 TEST(ViewTree, whatHasVanishedBeforeItsFrameNeverAppears)
 {
-    int appeared = 0;
+    Lines log;
     std::optional<State<bool>> there;
-    auto view = std::make_unique<TestView>(
-        [&] { return VStack({When(there->get(), [&] { return Text("x").onAppear([&] { ++appeared; }); })}); });
+    auto view = std::make_unique<TestView>([&] {
+        return VStack({When(there->get(), [&] { return Text("").onAppear([&] { log.emplace_back("vanished"); }); }),
+                       Text("").onAppear([&] { log.emplace_back("stayed"); })});
+    });
     there = view->makeState(true);
     Screen screen(std::move(view));
     there->set(false);
     screen.host.runFrame();
-    EXPECT_EQ(appeared, 0);
+    EXPECT_THAT(log, ElementsAre("stayed"));
 }
 
 TEST(ViewTree, anActionThatEndsItsOwnTreeRunsToItsEnd)
 {
-    std::optional<State<int>> state;
-    std::shared_ptr<ViewTree>* handle = nullptr;
-    auto view = std::make_unique<TestView>([&] {
-        return Button("close", [&] {
-            (*handle)->detach();
-            handle->reset();
-            state->set(1); // the view's own members are still there
+    std::shared_ptr<ViewTree> tree;
+    int result = 0;
+    auto view = std::make_unique<TestView>([&tree, &result, owned = std::make_shared<int>(1)] {
+        return Button("close", [&tree, &result, member = owned.get()] {
+            tree->detach();
+            tree.reset();
+            result = *member; // the view is still there
         });
     });
-    state = view->makeState(0);
     simulated::StubViewHost host;
-    auto tree = ViewTree::make(host, std::move(view));
-    handle = &tree;
+    tree = ViewTree::make(host, std::move(view));
     host.press("close");
-    EXPECT_EQ(state->get(), 1);
+    EXPECT_EQ(result, 1);
     EXPECT_FALSE(host.runFrame()) << "a detached tree draws nothing";
 }
 
@@ -210,16 +210,25 @@ TEST(ViewTree, receiversKeepTheirSubjectGetTheNewestHandlerAndEndWithTheElement)
     const auto first = std::make_shared<Subject<int>>();
     const auto second = std::make_shared<Subject<int>>();
     auto source = first;
+    std::optional<State<int>> inside;
+    const auto inner = [&] {
+        auto view = std::make_unique<TestView>([&] { return Text(std::to_string(inside->get())); });
+        inside = view->makeState(0);
+        return view;
+    };
     Screen screen([&] {
         ++drawing;
         return VStack({When(source != nullptr, [&] {
-            return Text("").onReceive(source, std::function<void(int)>([&log, drawing](int value) {
-                                          log.push_back(std::to_string(drawing) + ":" + std::to_string(value));
-                                      }));
+            return Nested<TestView>(inner).onReceive(source, std::function<void(int)>([&log, drawing](int value) {
+                                                         log.push_back(std::to_string(drawing) + ":" +
+                                                                       std::to_string(value));
+                                                     }));
         })});
     });
     first->send(5);
     screen.redraw();
+    inside->set(1); // a redraw inside of the element leaves it alone
+    screen.host.runFrame();
     first->send(6);
     EXPECT_EQ(first->subscriberCount(), 1U);
     source = second;
