@@ -44,10 +44,10 @@ void prepareProcess(bool renderNode)
 } // namespace
 
 Desktop::Desktop(const DesktopSettings& settings)
-    : bundle(settings.version), urlSession(settings.certificateAuthorityFile),
+    : renderNode_(hasRenderNode()), bundle(settings.version), urlSession(settings.certificateAuthorityFile),
       contentsReader(settings.certificateAuthorityFile),
       engine({.bundleIdentifier = settings.bundleIdentifier,
-              .hasRenderNode = hasRenderNode(),
+              .hasRenderNode = renderNode_,
               .report = [](const std::string& line) { reportDiagnostic(line); }}),
       screens(notifications, [this] { return windows.alertParent(); }),
       application(settings.bundleIdentifier, windows, screens,
@@ -64,7 +64,7 @@ Desktop::Desktop(const DesktopSettings& settings)
                    .isNested = [this] { return alertStack_.depth() > 0; }})
 {
     alertsEnded_ = alertGate_.opened().subscribe([this] { timers.alertsEnded(); });
-    prepareProcess(hasRenderNode());
+    prepareProcess(renderNode_);
 }
 
 } // namespace orken::desktop

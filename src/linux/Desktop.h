@@ -40,6 +40,7 @@ public:
 
 private:
     // In order of construction: what others are made of comes first.
+    bool renderNode_;
     AlertStack alertStack_;
     AlertGate alertGate_{alertStack_};
     Subscription alertsEnded_;

@@ -58,6 +58,7 @@ std::optional<int> DesktopApplication::launch(ApplicationDelegate& delegate, con
     }
     delegate_ = &delegate;
     group_ = group;
+    watchSignals();
     application_ =
         GObjectPtr<GtkApplication>::adopt(gtk_application_new(identifier_.c_str(), G_APPLICATION_DEFAULT_FLAGS));
     auto* application = G_APPLICATION(application_.get());
@@ -73,7 +74,6 @@ std::optional<int> DesktopApplication::launch(ApplicationDelegate& delegate, con
             return EXIT_SUCCESS;
         }
     }
-    watchSignals();
     return std::nullopt;
 }
 
