@@ -49,7 +49,7 @@ void Coordinator::decidePolicyForNavigationAction(BrowserView& view, const Navig
         // The engine waits for an answer to every action, and there is nothing here that could be loaded.
         decide(NavigationPolicy::cancel);
     } else if (*scheme == "blob") {
-        downloadBlob(view, action, std::move(decide));
+        downloadBlob(view, action, decide);
     } else {
         decide(NavigationPolicy::allow);
     }

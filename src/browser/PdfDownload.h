@@ -7,6 +7,7 @@
 namespace orken {
 
 /// Takes over a navigation to a `blob:` address. Always ends the decision with cancel, now or later. Main thread only.
-void downloadBlob(BrowserView& webView, const NavigationAction& action, std::function<void(NavigationPolicy)> decide);
+void downloadBlob(BrowserView& webView, const NavigationAction& action,
+                  const std::function<void(NavigationPolicy)>& decide);
 
 } // namespace orken

@@ -34,7 +34,7 @@ public:
 
 private:
     struct Entry {
-        Id id;
+        Id id = 0;
         std::optional<int> result;
     };
 

@@ -225,7 +225,7 @@ Element When(bool condition, const std::function<Element()>& make)
     return condition ? make() : Element();
 }
 
-Element GeometryReader(std::function<Element(Size)> content)
+Element GeometryReader(const std::function<Element(Size)>& content)
 {
     Element element(NestedContent{.type = typeid(GeometryView), .readsGeometry = true});
     element.handlers().makeView = [content] { return std::make_unique<GeometryView>(content); };

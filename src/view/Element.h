@@ -227,7 +227,7 @@ private:
 /// are.
 [[nodiscard]] Element When(bool condition, const std::function<Element()>& make);
 /// Content that depends on the room it is given; (0, 0) before the first layout.
-[[nodiscard]] Element GeometryReader(std::function<Element(Size)> content);
+[[nodiscard]] Element GeometryReader(const std::function<Element(Size)>& content);
 
 /// A view with state of its own. `make` runs once, when the place is taken; `update` hands the newest values over to
 /// the view that is there on every redraw of the view around it.

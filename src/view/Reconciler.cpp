@@ -17,7 +17,7 @@ RenderNodePtr predecessor(const Element& element, std::size_t position, const st
         return same ? old[position] : nullptr;
     }
     const auto found = std::find_if(old.begin(), old.end(), [&](const RenderNodePtr& node) {
-        return taken.count(node->id) == 0 && sameIdentity(element, node->element);
+        return !taken.contains(node->id) && sameIdentity(element, node->element);
     });
     return found == old.end() ? nullptr : *found;
 }

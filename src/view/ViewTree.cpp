@@ -123,12 +123,12 @@ void ViewTree::pressed(NodeId button)
     }
 }
 
-void ViewTree::alertAnswered(NodeId id, std::size_t button)
+void ViewTree::alertAnswered(NodeId node, std::size_t button)
 {
     const auto keepTree = shared_from_this();
     const RenderNodePtr keepViews = root_;
-    if (const RenderNodePtr node = find(id); node && node->element.handlers().onAlertAnswer) {
-        node->element.handlers().onAlertAnswer(button);
+    if (const RenderNodePtr found = find(node); found && found->element.handlers().onAlertAnswer) {
+        found->element.handlers().onAlertAnswer(button);
     }
 }
 

@@ -37,20 +37,15 @@ TEST(BrowsingData, emptiesTheCachesFolderAndKeepsTheFolderItself)
 
 TEST(BrowsingData, stopsAtAnEntryThatCannotBeRemovedButNotAtOneThatHasVanished)
 {
-    const struct {
-        int code;
-        bool lastIsLeft;
-    } cases[] = {{EACCES, true}, {ENOENT, false}};
-
-    for (const auto& one : cases) {
+    for (const auto& [code, lastIsLeft] : {std::pair(EACCES, true), std::pair(ENOENT, false)}) {
         Bed bed;
         for (const char* name : {"a", "b", "c"}) {
             bed.desktop.files.addFile(kFolder / name);
         }
-        bed.desktop.files.failingRemovals[kFolder / "b"] = one.code;
+        bed.desktop.files.failingRemovals[kFolder / "b"] = code;
         bed.clear();
         EXPECT_FALSE(bed.desktop.files.exists(kFolder / "a"));
-        EXPECT_EQ(bed.desktop.files.exists(kFolder / "c"), one.lastIsLeft) << one.code;
+        EXPECT_EQ(bed.desktop.files.exists(kFolder / "c"), lastIsLeft) << code;
     }
 }
 

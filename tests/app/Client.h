@@ -14,7 +14,7 @@ public:
     static constexpr const char* kLoginURL = "https://login.example//accounts/login?param=C02ABC123XYZ&xppKey="
                                              "5b2e7a41-93cd-4f08-a6e2-1c7d90b3f584";
 
-    explicit Client(simulated::DesktopOptions options = {}) : desktop(options)
+    Client()
     {
         desktop.network.routes["https://ip.example/"] = {.body = "203.0.113.7\n", .delay = Seconds{0.2}};
         desktop.browserViews.site = {{kLoginURL, {.title = "Login", .loadTime = Seconds{3}}}};
@@ -30,18 +30,9 @@ public:
     }
 
     simulated::SimulatedDesktop desktop;
-    VistroApp app{{.application = desktop.application,
-                   .windows = desktop.windows,
-                   .notifications = desktop.notifications,
-                   .mainQueue = desktop.loop,
-                   .console = desktop.console,
-                   .bundle = desktop.bundle,
-                   .files = desktop.files,
-                   .cookies = desktop.cookies,
-                   .websiteData = desktop.websiteData,
-                   .contentsReader = desktop.network,
-                   .hardware = desktop.hardware,
-                   .browserViews = desktop.browserViews},
+    VistroApp app{{desktop.application, desktop.windows, desktop.notifications, desktop.loop, desktop.console,
+                   desktop.bundle, desktop.files, desktop.cookies, desktop.websiteData, desktop.network,
+                   desktop.hardware, desktop.browserViews},
                   {.bundleIdentifier = "com.orken.test",
                    .version = "2.1",
                    .contentHost = "content.example",

@@ -80,11 +80,7 @@ TEST(Coordinator, acceptsEveryCertificateAndCancelsEveryOtherChallenge)
 
 TEST(Coordinator, letsEverythingThroughButBlobsAndWhatHasNoScheme)
 {
-    const struct {
-        std::optional<std::string> url;
-        NavigationPolicy policy;
-        std::vector<std::string> printed;
-    } cases[] = {
+    const std::tuple<std::optional<std::string>, NavigationPolicy, std::vector<std::string>> cases[] = {
         {"https://elsewhere.example/x", NavigationPolicy::allow, {"print Gelen data tipi https"}},
         {"data:text/plain,x", NavigationPolicy::allow, {"print Gelen data tipi data"}},
         {"about:blank", NavigationPolicy::allow, {"print Gelen data tipi about"}},
@@ -93,15 +89,14 @@ TEST(Coordinator, letsEverythingThroughButBlobsAndWhatHasNoScheme)
         {"no-scheme", NavigationPolicy::cancel, {"print Gelen data tipi unknown"}},
         {std::nullopt, NavigationPolicy::cancel, {}},
     };
-
-    for (const auto& one : cases) {
+    for (const auto& [url, policy, printed] : cases) {
         Bed bed;
         std::vector<NavigationPolicy> answers;
-        bed.coordinator->decidePolicyForNavigationAction(*bed.view, {.requestUrl = one.url},
-                                                         [&](NavigationPolicy policy) { answers.push_back(policy); });
+        bed.coordinator->decidePolicyForNavigationAction(*bed.view, {.requestUrl = url},
+                                                         [&](NavigationPolicy given) { answers.push_back(given); });
         bed.desktop.loop.run();
-        EXPECT_THAT(answers, ElementsAre(one.policy)) << one.url.value_or("none");
-        EXPECT_EQ(bed.desktop.journal.starting("print "), one.printed);
+        EXPECT_THAT(answers, ElementsAre(policy)) << url.value_or("none");
+        EXPECT_EQ(bed.desktop.journal.starting("print "), printed);
     }
 }
 

@@ -38,9 +38,6 @@ struct ContractPorts {
 /// One desktop under the tests that every desktop has to pass: its ports, and what only its outside can do.
 class ContractDesktop {
 public:
-    ContractDesktop() = default;
-    ContractDesktop(const ContractDesktop&) = delete;
-    ContractDesktop& operator=(const ContractDesktop&) = delete;
     virtual ~ContractDesktop() = default;
 
     /// Starts the application. The group's window is on the screen when this returns, and the main loop is served by
@@ -87,14 +84,6 @@ protected:
     void launch()
     {
         desktop->launch(delegate, {.title = "start", .content = [this] { return std::make_unique<Content>(*this); }});
-    }
-
-    [[nodiscard]] std::shared_ptr<Window> openWindow()
-    {
-        constexpr WindowStyleMask kOrdinary = 15;
-        auto window = ports.windows.makeWindow({.width = 640, .height = 480}, kOrdinary);
-        window->makeKeyAndOrderFront();
-        return window;
     }
 
     [[nodiscard]] bool runUntil(const std::function<bool()>& done) { return desktop->runUntil(done, Seconds{10}); }

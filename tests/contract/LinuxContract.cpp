@@ -96,17 +96,9 @@ public:
 
     [[nodiscard]] ContractPorts ports() override
     {
-        return {.mainQueue = desktop_.mainQueue,
-                .timers = desktop_.timers,
-                .notifications = desktop_.notifications,
-                .windows = desktop_.windows,
-                .application = desktop_.application,
-                .alerts = desktop_.alerts,
-                .files = desktop_.files,
-                .urlSession = desktop_.urlSession,
-                .contentsReader = desktop_.contentsReader,
-                .browserViews = desktop_.engine,
-                .websiteData = desktop_.engine};
+        return {desktop_.mainQueue,      desktop_.timers, desktop_.notifications, desktop_.windows,
+                desktop_.application,    desktop_.alerts, desktop_.files,         desktop_.urlSession,
+                desktop_.contentsReader, desktop_.engine, desktop_.engine};
     }
 
 private:

@@ -34,17 +34,9 @@ public:
 
     [[nodiscard]] ContractPorts ports() override
     {
-        return {.mainQueue = desktop_.loop,
-                .timers = desktop_.loop,
-                .notifications = desktop_.notifications,
-                .windows = desktop_.windows,
-                .application = desktop_.application,
-                .alerts = desktop_.alerts,
-                .files = desktop_.files,
-                .urlSession = desktop_.network,
-                .contentsReader = desktop_.network,
-                .browserViews = desktop_.browserViews,
-                .websiteData = desktop_.websiteData};
+        return {desktop_.loop,        desktop_.loop,         desktop_.notifications, desktop_.windows,
+                desktop_.application, desktop_.alerts,       desktop_.files,         desktop_.network,
+                desktop_.network,     desktop_.browserViews, desktop_.websiteData};
     }
 
 private:

@@ -29,7 +29,8 @@ TEST_P(Contract, theListHoldsApplicationWindowsInOrderAndThePanelLast)
 TEST_P(Contract, fullScreenIsToldInOrderAndIgnoresRequestsOnTheWay)
 {
     launch();
-    const auto window = openWindow();
+    const auto window = ports.windows.makeWindow({.width = 640, .height = 480}, 15);
+    window->makeKeyAndOrderFront();
     std::string log;
     const auto tell = [&](NotificationName name, const char* letter) {
         ports.notifications.addObserver(name, [&log, letter] { log += letter; });

@@ -26,22 +26,15 @@ TEST(DeviceIdentity, theSerialNumberIsTrimmedAndReadAnew)
 
 TEST(DeviceIdentity, theAddressIsTheTrimmedBodyOfAnyAnswer)
 {
-    const struct {
-        simulated::Route route;
-        std::optional<std::string> address;
-    } cases[] = {
-        {{.body = "203.0.113.7\n"}, "203.0.113.7"},
+    const std::pair<simulated::Route, std::optional<std::string>> cases[] = {
         {{.body = " 203.0.113.7 \r\n"}, "203.0.113.7"},
-        {{.body = "\n"}, ""},
         {{.body = "gone", .statusCode = 404}, "gone"},
-        {{.error = platformError("network", 1, "", "no route")}, std::nullopt},
-    };
-
-    for (const auto& one : cases) {
+        {{.error = platformError("network", 1, "", "no route")}, std::nullopt}};
+    for (const auto& [route, address] : cases) {
         Bed bed;
-        bed.desktop.network.routes[kEcho] = one.route;
-        EXPECT_EQ(bed.identity.fetchPublicIPAddress(), one.address);
-        EXPECT_EQ(bed.identity.fetchPublicIPAddress(), one.address);
+        bed.desktop.network.routes[kEcho] = route;
+        EXPECT_EQ(bed.identity.fetchPublicIPAddress(), address);
+        EXPECT_EQ(bed.identity.fetchPublicIPAddress(), address);
         EXPECT_EQ(bed.desktop.journal.starting("GET ").size(), 2U) << "nothing is cached";
     }
 }

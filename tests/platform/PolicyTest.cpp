@@ -1,8 +1,7 @@
 #include "platform/AlertStack.h"
-#include "platform/BundleInfo.h"
 #include "platform/FullScreenTransition.h"
 #include "platform/TimerGrid.h"
-#include "simulated/SimulatedMachine.h"
+#include "platform/WindowRegistry.h"
 
 #include <gmock/gmock.h>
 
@@ -12,22 +11,17 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-TEST(FullScreenTransition, takesOneRequestAtATimeAndIsFullScreenOnlyInBetween)
+TEST(FullScreenTransition, aRepeatedReportOfTheOldStateEndsNothing)
 {
     FullScreenTransition window;
-    EXPECT_EQ(window.toggle(), FullScreenChange::willEnter);
-    EXPECT_EQ(window.toggle(), std::nullopt);
-    EXPECT_FALSE(window.isFullScreen());
-    EXPECT_THAT(window.reported(false), IsEmpty()) << "a repeated report of the old state";
+    (void)window.toggle();
+    EXPECT_THAT(window.reported(false), IsEmpty());
     EXPECT_TRUE(window.isUnderWay());
     EXPECT_THAT(window.reported(true), ElementsAre(FullScreenChange::didEnter));
-    EXPECT_TRUE(window.isFullScreen());
     EXPECT_EQ(window.toggle(), FullScreenChange::willExit);
-    EXPECT_FALSE(window.isFullScreen()) << "on its way back";
     EXPECT_EQ(window.toggle(), std::nullopt);
     EXPECT_THAT(window.reported(true), IsEmpty());
     EXPECT_THAT(window.reported(false), ElementsAre(FullScreenChange::didExit));
-    EXPECT_FALSE(window.isUnderWay());
 }
 
 TEST(FullScreenTransition, followsChangesThatNobodyAskedFor)
@@ -54,55 +48,101 @@ TEST(TimerGrid, lateFiresAreOneAndTheGridStays)
 {
     TimerGrid grid(Seconds{0}, Seconds{10});
 
-    const struct {
-        double now;
-        bool due;
-        double next;
-    } cases[] = {{9.9, false, 10}, {10, true, 20}, {35, true, 40}, {40.5, true, 50}, {40.6, false, 50}, {50, true, 60}};
-
-    for (const auto& one : cases) {
-        EXPECT_EQ(grid.isDue(Seconds{one.now}), one.due) << one.now;
-        grid.fired(Seconds{one.now});
-        EXPECT_EQ(grid.next(), Seconds{one.next}) << one.now;
+    const std::tuple<double, bool, double> cases[] = {{9.9, false, 10}, {10, true, 20},    {35, true, 40},
+                                                      {40.5, true, 50}, {40.6, false, 50}, {50, true, 60}};
+    for (const auto& [now, due, next] : cases) {
+        EXPECT_EQ(grid.isDue(Seconds{now}), due) << now;
+        grid.fired(Seconds{now});
+        EXPECT_EQ(grid.next(), Seconds{next}) << now;
     }
 }
 
-TEST(AlertStack, anAlertIsOverOnlyWhenTheOnesAboveItAre)
+TEST(AlertStack, anAlertIsOverWhenTheOnesAboveItAreAndItsFirstAnswerCounts)
 {
     AlertStack stack;
+    const auto unanswered = stack.push();
     const auto outer = stack.push();
     const auto inner = stack.push();
     stack.answer(outer, 1);
     EXPECT_EQ(stack.result(outer), std::nullopt);
-    EXPECT_EQ(stack.result(inner), std::nullopt);
-    stack.answer(inner, 0);
-    EXPECT_EQ(stack.result(inner), 1000);
-    stack.pop(inner);
-    EXPECT_EQ(stack.result(outer), 1001);
-    EXPECT_EQ(stack.depth(), 1U);
-}
-
-TEST(AlertStack, theFirstAnswerCountsAndTheProgramCanEndWhatHasNone)
-{
-    AlertStack stack;
-    const auto outer = stack.push();
-    const auto inner = stack.push();
     stack.answer(inner, 2);
     stack.abort(inner);
     stack.abortAll();
     EXPECT_EQ(stack.result(inner), 1002);
     stack.pop(inner);
-    EXPECT_EQ(stack.result(outer), -1001);
+    EXPECT_EQ(stack.result(outer), 1001);
+    stack.pop(outer);
+    EXPECT_EQ(stack.result(unanswered), kAlertAborted);
+    EXPECT_EQ(stack.depth(), 1U);
 }
 
-TEST(BundleInfo, onlyATextIsAVersion)
+struct ListedWindow final : Window {
+    [[nodiscard]] bool isVisible() const override { return shown; }
+
+    [[nodiscard]] WindowStyleMask styleMask() const override { return 0; }
+
+    void setTitle(const std::string&) override {}
+
+    void center() override {}
+
+    void makeKeyAndOrderFront() override {}
+
+    void setContentView(std::unique_ptr<View>) override {}
+
+    void toggleFullScreen() override {}
+
+    void close() override {}
+
+    bool shown = true;
+};
+
+std::shared_ptr<ListedWindow> window()
 {
-    simulated::SimulatedBundle bundle;
-    bundle.values = {{"text", InfoValue("1.0")}, {"empty", InfoValue("")}, {"number", InfoValue(1.0)}};
-    EXPECT_EQ(infoText(bundle, "text"), "1.0");
-    EXPECT_EQ(infoText(bundle, "empty"), "");
-    EXPECT_EQ(infoText(bundle, "number"), std::nullopt);
-    EXPECT_EQ(infoText(bundle, "missing"), std::nullopt);
+    return std::make_shared<ListedWindow>();
+}
+
+TEST(WindowRegistry, keepsItsOrderWhateverTheOrderOfArrival)
+{
+    using enum WindowKind;
+    WindowRegistry registry;
+    std::vector<std::shared_ptr<Window>> added;
+    for (const WindowKind kind : {panel, toolkit, application, panel, application, panel}) {
+        registry.add(added.emplace_back(window()), kind);
+    }
+    EXPECT_THAT(registry.all(), ElementsAre(added[2], added[4], added[1], added[5], added[3], added[0]));
+    registry.remove(*added[2]);
+    registry.remove(*added[3]);
+    EXPECT_THAT(registry.all(), ElementsAre(added[4], added[1], added[5], added[0]));
+}
+
+TEST(WindowRegistry, theKeyWindowIsTheVisibleOneThatHadTheKeyboardLast)
+{
+    WindowRegistry registry;
+    const auto a = window();
+    const auto b = window();
+    EXPECT_EQ(registry.key(), nullptr);
+    registry.add(a, WindowKind::application);
+    registry.add(b, WindowKind::application);
+    EXPECT_EQ(registry.key(), b) << "before any input the newest stands in front";
+    registry.gotKeyboard(*a);
+    EXPECT_EQ(registry.key(), a);
+    registry.gotKeyboard(*b);
+    b->shown = false;
+    EXPECT_EQ(registry.key(), a);
+}
+
+TEST(WindowRegistry, panelsAndToolkitWindowsDoNotKeepTheApplicationOpen)
+{
+    WindowRegistry registry;
+    const auto start = window();
+    const auto session = window();
+    registry.add(start, WindowKind::application);
+    registry.add(session, WindowKind::application);
+    registry.add(window(), WindowKind::toolkit);
+    registry.add(window(), WindowKind::panel);
+    EXPECT_FALSE(registry.isLastVisibleApplicationWindow(*start));
+    session->shown = false;
+    EXPECT_TRUE(registry.isLastVisibleApplicationWindow(*start));
 }
 
 } // namespace

@@ -17,8 +17,6 @@ public:
 
     [[nodiscard]] std::vector<std::string> take() { return std::exchange(acts_, {}); }
 
-    void clear() { acts_.clear(); }
-
     /// The acts of one kind, such as "print ".
     [[nodiscard]] std::vector<std::string> starting(std::string_view prefix) const
     {

@@ -3,8 +3,8 @@
 #include "platform/AlertStack.h"
 #include "simulated/SimulatedApplication.h"
 
+#include <algorithm>
 #include <deque>
-#include <functional>
 #include <string>
 
 namespace orken::simulated {
@@ -17,29 +17,58 @@ public:
     {
     }
 
-    [[nodiscard]] int runModal(const Alert& alert) override;
-
-    /// What the user does once the next alert is up.
-    void whenShown(std::function<void()> user) { users_.push_back(std::move(user)); }
-
-    void answerNext(std::string button)
+    [[nodiscard]] int runModal(const Alert& alert) override
     {
-        whenShown([this, button = std::move(button)] { press(button); });
+        loop_.requireMainThread();
+        if (application_.isTerminating()) {
+            return kAlertAborted;
+        }
+        journal_.add("alert " + alert.messageText + ": " + alert.informativeText);
+        const auto id = stack_.push();
+        shown_.emplace_back(id, alert);
+        const auto panel = windows_.showPanel([this, id] { stack_.abort(id); });
+        loop_.beginModal();
+        if (!answers_.empty()) {
+            press(std::exchange(answers_.front(), {}));
+            answers_.pop_front();
+        }
+        require(loop_.runUntil([this, id] { return stack_.result(id).has_value(); }, kPatience),
+                "nobody ends the alert " + alert.messageText);
+        loop_.endModal();
+
+        const int result = *stack_.result(id);
+        stack_.pop(id);
+        shown_.pop_back();
+        windows_.hidePanel(panel);
+        return result;
     }
 
+    /// The user presses this button once the next alert is up.
+    void answerNext(std::string button) { answers_.push_back(std::move(button)); }
+
     /// The alert on top; one must be up.
-    void press(const std::string& button);
+    void press(const std::string& button)
+    {
+        require(!shown_.empty(), "no alert is up");
+        const auto& [id, alert] = shown_.back();
+        const auto place = std::find(alert.buttons.begin(), alert.buttons.end(), button);
+        require(place != alert.buttons.end(), "the alert has no button " + button);
+        stack_.answer(id, static_cast<std::size_t>(place - alert.buttons.begin()));
+    }
 
     void abortAll() { stack_.abortAll(); }
 
 private:
+    /// Longer than any test lets an alert stay up.
+    static constexpr Seconds kPatience{3600};
+
     MainLoop& loop_;
     SimulatedWindows& windows_;
     const Application& application_;
     Journal& journal_;
     AlertStack stack_;
     std::vector<std::pair<AlertStack::Id, Alert>> shown_;
-    std::deque<std::function<void()>> users_;
+    std::deque<std::string> answers_;
 };
 
 } // namespace orken::simulated

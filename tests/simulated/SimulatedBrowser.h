@@ -1,8 +1,10 @@
 #pragma once
 
+#include "foundation/Url.h"
 #include "platform/BrowserView.h"
 #include "simulated/Journal.h"
 #include "simulated/MainLoop.h"
+#include "simulated/Require.h"
 
 #include <map>
 #include <memory>
@@ -16,8 +18,6 @@ struct Page {
     std::optional<std::string> title;
     /// Where the server sends the browser instead.
     std::optional<std::string> redirect;
-    /// There is no answer.
-    bool fails = false;
     /// The server's certificate fails the checks.
     bool untrusted = false;
     /// From the request to the end of the page.
@@ -44,8 +44,24 @@ public:
 
     [[nodiscard]] std::optional<std::string> url() const override { return address_; }
 
-    void setNavigationDelegate(std::weak_ptr<NavigationDelegate> delegate) override;
-    void load(const UrlRequest& request) override;
+    void setNavigationDelegate(std::weak_ptr<NavigationDelegate> delegate) override
+    {
+        delegate_ = std::move(delegate);
+        journal_.add("navigation delegate");
+    }
+
+    void load(const UrlRequest& request) override
+    {
+        loop_.requireMainThread();
+        if (!parseUrl(request.url)) {
+            return;
+        }
+        journal_.add("load " + request.url + " within " + std::to_string(static_cast<int>(request.timeout.count())) +
+                     " s");
+        // Only a load call shows its address before the server has answered.
+        address_ = request.url;
+        navigate(request.url);
+    }
 
     void setCustomUserAgent(const std::string& userAgent) override { setUp("user agent ", userAgent_ = userAgent); }
 
@@ -55,20 +71,103 @@ public:
 
     void setDeveloperExtrasEnabled(bool enabled) override { setUp("developer extras ", enabled ? "on" : "off"); }
 
-    void addUserScript(const UserScript& script) override;
+    void addUserScript(const UserScript& script) override
+    {
+        const bool atEnd = script.injectionTime == ScriptInjectionTime::documentEnd;
+        journal_.add(std::string("user script at ") + (atEnd ? "end" : "start") +
+                     (script.forMainFrameOnly ? " of the main frame: " : " of every frame: ") + script.source);
+    }
 
     /// The page or the user goes to an address.
-    void navigate(const std::string& url);
+    void navigate(const std::string& url)
+    {
+        ++loads_;
+        onThisLoad(Seconds{0}, [this, url] { askPolicy(url); });
+    }
 
 private:
+    struct Trust final : ServerTrust {
+        void setOwnExceptions() override { accepted = true; }
+
+        bool accepted = false;
+    };
+
+    /// A decision handler of the engine: exactly one call.
+    template <class Answer>
+    static std::function<void(Answer)> onceOnly(std::function<void(Answer)> decide)
+    {
+        return [decided = std::make_shared<bool>(false), decide = std::move(decide)](Answer answer) {
+            require(!std::exchange(*decided, true), "a decision was given twice");
+            decide(answer);
+        };
+    }
+
     void setUp(const std::string& setting, const std::string& value) { journal_.add(setting + value); }
 
-    void askPolicy(const std::string& url);
-    void request(const std::string& url);
-    void answer(const std::string& url, const Page& page);
-    void failProvisionally(const std::string& reason);
+    void askPolicy(const std::string& url)
+    {
+        const auto delegate = delegate_.lock();
+        if (!delegate) {
+            request(url);
+            return;
+        }
+        const auto decide = onceOnly<NavigationPolicy>([this, url](NavigationPolicy policy) {
+            policy == NavigationPolicy::allow ? request(url) : failProvisionally("cancelled");
+        });
+        delegate->decidePolicyForNavigationAction(*this, {.requestUrl = url}, decide);
+    }
+
+    void request(const std::string& url)
+    {
+        journal_.add("request " + url + " as " + userAgent_);
+        const auto delegate = delegate_.lock();
+        const auto place = site_.find(url);
+        if (place == site_.end()) {
+            failProvisionally("no answer");
+        } else if (!place->second.untrusted) {
+            answer(url, place->second);
+        } else if (delegate) {
+            const auto trust = std::make_shared<Trust>();
+            const auto decide = onceOnly<ChallengeDisposition>([=, this, page = place->second](auto disposition) {
+                const bool accepted = disposition == ChallengeDisposition::useCredential && trust->accepted;
+                accepted ? answer(url, page) : failProvisionally("certificate");
+            });
+            delegate->didReceiveAuthenticationChallenge(*this, {.serverTrust = trust}, decide);
+        }
+    }
+
+    void answer(const std::string& url, const Page& page)
+    {
+        if (page.redirect) {
+            navigate(*page.redirect);
+            return;
+        }
+        address_ = committed_ = url;
+        title_ = page.title;
+        onThisLoad(page.loadTime, [this] {
+            if (const auto delegate = delegate_.lock()) {
+                delegate->didFinishNavigation(*this);
+            }
+        });
+    }
+
+    void failProvisionally(const std::string& reason)
+    {
+        address_ = committed_;
+        if (const auto delegate = delegate_.lock()) {
+            delegate->didFailProvisionalNavigation(*this, platformError("browser", 2, "", reason));
+        }
+    }
+
     /// Nothing happens once another load has begun.
-    void onThisLoad(Seconds delay, std::function<void()> step);
+    void onThisLoad(Seconds delay, std::function<void()> step)
+    {
+        loop_.later(delay, [weak = weak_from_this(), load = loads_, step = std::move(step)] {
+            if (const auto view = weak.lock(); view && view->loads_ == load) {
+                step();
+            }
+        });
+    }
 
     MainLoop& loop_;
     Journal& journal_;

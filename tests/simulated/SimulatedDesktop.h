@@ -21,9 +21,6 @@ public:
         };
     }
 
-    SimulatedDesktop(const SimulatedDesktop&) = delete;
-    SimulatedDesktop& operator=(const SimulatedDesktop&) = delete;
-
     Journal journal;
     MainLoop loop;
     NotificationCenter notifications;
@@ -33,7 +30,6 @@ public:
     SimulatedConsole console{journal};
     SimulatedHardware hardware;
     SimulatedBundle bundle;
-    SimulatedScreens screens;
     SimulatedCookies cookies{journal};
     SimulatedFiles files{journal};
     SimulatedNetwork network{loop, journal};
@@ -57,14 +53,6 @@ public:
         const auto window = showing(button);
         require(window && !loop.isModal() && !application.isTerminating(), "this cannot be pressed now: " + button);
         window->content().press(button);
-    }
-
-    /// The user answers the alert that belongs to the window with this text.
-    void answerAlertOf(const std::string& text, const std::string& button)
-    {
-        const auto window = showing(text);
-        require(window && !loop.isModal(), "no alert can be seen over " + text);
-        window->content().answerAlert(button);
     }
 
     /// The session manager or a signal asks the client to end.

@@ -4,7 +4,6 @@
 #include "platform/Console.h"
 #include "platform/CookieStorage.h"
 #include "platform/HardwareRegistry.h"
-#include "platform/Screens.h"
 #include "simulated/Journal.h"
 
 #include <map>
@@ -39,13 +38,6 @@ public:
     }
 
     std::map<std::string, InfoValue> values{{kBundleShortVersionKey, InfoValue("2.1")}};
-};
-
-class SimulatedScreens final : public Screens {
-public:
-    [[nodiscard]] std::optional<Rect> mainScreenFrame() const override { return frame; }
-
-    std::optional<Rect> frame = Rect{.x = 0, .y = 0, .width = 1920, .height = 1080};
 };
 
 class SimulatedCookies final : public CookieStorage {

@@ -15,7 +15,6 @@ namespace orken::simulated {
 struct Route {
     std::string body;
     int statusCode = 200;
-    std::string mimeType = "text/plain";
     /// There is no answer at all.
     std::optional<PlatformError> error;
     Seconds delay{0};
@@ -34,7 +33,7 @@ public:
         DataTaskResult result{.error = route.error};
         if (!route.error) {
             result.data = toBytes(route.body);
-            result.response = UrlResponse{.statusCode = route.statusCode, .mimeType = route.mimeType};
+            result.response = UrlResponse{.statusCode = route.statusCode, .mimeType = "text/plain"};
         }
         loop_.later(route.delay, [this, result, completion = std::move(completion)] {
             loop_.addBackgroundJob([result, completion] { completion(result); });

@@ -15,33 +15,111 @@ class SimulatedWindows final : public Windows {
 public:
     using WindowPtr = std::shared_ptr<SimulatedWindow>;
 
-    SimulatedWindows(MainLoop& loop, NotificationCenter& notifications, Journal& journal, DesktopOptions options);
+    SimulatedWindows(MainLoop& loop, NotificationCenter& notifications, Journal& journal, DesktopOptions options)
+        : surroundings_{loop, notifications, journal, registry_}
+    {
+        if (options.permanentPanel) {
+            permanentPanel_ = add(WindowKind::panel, windowStyle::kTitled);
+        }
+        loop.addSource([this] {
+            bool worked = false;
+            for (const auto& window : list()) {
+                worked |= window->isVisible() ? window->content().runFrame() : window->content().redraw();
+            }
+            return worked;
+        });
+    }
 
     [[nodiscard]] std::vector<std::shared_ptr<Window>> all() const override { return registry_.all(); }
 
     [[nodiscard]] std::shared_ptr<Window> key() const override { return registry_.key(); }
 
-    [[nodiscard]] std::shared_ptr<Window> makeWindow(const Rect& contentRect, WindowStyleMask styleMask) override;
+    [[nodiscard]] std::shared_ptr<Window> makeWindow(const Rect& contentRect, WindowStyleMask styleMask) override
+    {
+        surroundings_.loop.requireMainThread();
+        surroundings_.journal.add("make window " + std::to_string(static_cast<int>(contentRect.width)) + "x" +
+                                  std::to_string(static_cast<int>(contentRect.height)) + " style " +
+                                  std::to_string(styleMask));
+        return add(WindowKind::application, styleMask);
+    }
 
     // The desktop's side.
-    void openGroupWindow(const WindowGroup& group);
-    /// A window of the engine, such as its inspector.
-    WindowPtr openToolkitWindow(const std::string& title);
+    void openGroupWindow(const WindowGroup& group)
+    {
+        const auto window = add(WindowKind::application, kOrdinary);
+        window->onClose = [this, weak = std::weak_ptr(window)] {
+            const auto closed = weak.lock();
+            registry_.remove(*closed);
+            // The pressed button may be inside: the widgets go on a later turn.
+            surroundings_.loop.later(Seconds{0}, [closed] { closed->dropContent(); });
+        };
+        window->setTitle(group.title);
+        window->setContentView(group.content());
+        window->makeKeyAndOrderFront();
+    }
+
     /// The permanent panel for an outermost alert, else one of the alert's own.
-    WindowPtr showPanel(std::function<void()> onClose);
-    void hidePanel(const WindowPtr& panel);
+    WindowPtr showPanel(std::function<void()> onClose)
+    {
+        const bool usesPermanent = permanentPanel_ && !permanentPanel_->isVisible();
+        const auto panel = usesPermanent ? permanentPanel_ : add(WindowKind::panel, windowStyle::kTitled);
+        panel->onClose = std::move(onClose);
+        panel->setVisible(true);
+        registry_.gotKeyboard(*panel);
+        return panel;
+    }
+
+    void hidePanel(const WindowPtr& panel)
+    {
+        panel->setVisible(false);
+        panel->onClose = [] {};
+        if (panel != permanentPanel_) {
+            registry_.remove(*panel);
+        }
+    }
 
     /// The user's close of a window; `onLastClosed` when it leaves no window of the application.
-    void userCloses(const WindowPtr& window);
+    void userCloses(const WindowPtr& window)
+    {
+        if (registry_.isLastVisibleApplicationWindow(*window)) {
+            onLastClosed();
+        } else {
+            window->close();
+        }
+    }
+
     std::function<void()> onLastClosed;
 
     /// In list order, hidden ones too.
-    [[nodiscard]] std::vector<WindowPtr> list() const;
+    [[nodiscard]] std::vector<WindowPtr> list() const
+    {
+        std::vector<WindowPtr> windows;
+        for (const auto& window : registry_.all()) {
+            windows.push_back(std::static_pointer_cast<SimulatedWindow>(window));
+        }
+        return windows;
+    }
+
     /// The window with this title, visible or not; null when there is none.
-    [[nodiscard]] WindowPtr find(const std::string& title) const;
+    [[nodiscard]] WindowPtr find(const std::string& title) const
+    {
+        for (const auto& window : list()) {
+            if (window->title() == title) {
+                return window;
+            }
+        }
+        return nullptr;
+    }
 
 private:
-    WindowPtr add(WindowKind kind, WindowStyleMask styleMask);
+    static constexpr WindowStyleMask kOrdinary = 15;
+
+    WindowPtr add(WindowKind kind, WindowStyleMask styleMask)
+    {
+        auto window = std::make_shared<SimulatedWindow>(surroundings_, kind, styleMask);
+        registry_.add(window, kind);
+        return window;
+    }
 
     WindowRegistry registry_;
     SimulatedWindow::Surroundings surroundings_;

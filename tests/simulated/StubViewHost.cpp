@@ -162,8 +162,7 @@ void StubViewHost::answerAlert(const std::string& title)
     const auto id = findIf([](const Node& node) { return node.modifiers.alert.has_value(); });
     require(id.has_value(), "there is no alert to answer");
     const auto buttons = alert()->buttons;
-    const auto place =
-        std::find_if(buttons.begin(), buttons.end(), [&](const auto& one) { return one.title == title; });
+    const auto place = std::find_if(buttons.begin(), buttons.end(), [&](auto& one) { return one.title == title; });
     require(place != buttons.end(), "the alert has no button " + title);
     events_->alertAnswered(*id, static_cast<std::size_t>(place - buttons.begin()));
 }

@@ -19,42 +19,26 @@ std::vector<Modifiers> layers(const Element& element)
     return result;
 }
 
-Modifiers with(Insets inner, std::optional<Frame> frame, std::optional<Color> background, Insets outer)
-{
-    Modifiers modifiers;
-    modifiers.innerPadding = inner;
-    modifiers.frame = frame;
-    modifiers.background = background;
-    modifiers.padding = outer;
-    return modifiers;
-}
-
 TEST(Modifiers, eachWorksOnWhatStandsBeforeIt)
 {
     const Color gray = Color::gray();
     const Insets doubled{.top = 32, .leading = 32, .bottom = 32, .trailing = 32};
 
-    const struct {
-        const char* order;
-        Element element;
-        std::vector<Modifiers> layers;
-    } cases[] = {
-        {"padding twice", Text("").padding().padding(), {with({}, {}, {}, doubled)}},
-        {"frame, background", Text("").frame(kFrame).background(gray), {with({}, kFrame, gray, {})}},
-        {"padding, frame", Text("").padding().frame(kFrame), {with(kAround, kFrame, {}, {})}},
-        {"frame, padding", Text("").frame(kFrame).padding(), {with({}, kFrame, {}, kAround)}},
-        {"padding, background", Text("").padding().background(gray), {with(kAround, {}, gray, {})}},
-        {"background, padding", Text("").background(gray).padding(), {with({}, {}, gray, kAround)}},
-        {"background, frame",
-         Text("").background(gray).frame(kFrame),
-         {with({}, kFrame, {}, {}), with({}, {}, gray, {})}},
+    const std::tuple<const char*, Element, std::vector<Modifiers>> cases[] = {
+        {"padding twice", Text("").padding().padding(), {{.padding = doubled}}},
+        {"padding, frame", Text("").padding().frame(kFrame), {{.innerPadding = kAround, .frame = kFrame}}},
+        {"background, padding", Text("").background(gray).padding(), {{.background = gray, .padding = kAround}}},
+        {"background, frame", Text("").background(gray).frame(kFrame), {{.frame = kFrame}, {.background = gray}}},
         {"frame, padding, background",
          Text("").frame(kFrame).padding().background(gray),
-         {with({}, {}, gray, {}), with({}, kFrame, {}, kAround)}},
+         {{.background = gray}, {.frame = kFrame, .padding = kAround}}},
+        {"padding, background, padding",
+         Text("").padding().background(gray).padding(),
+         {{.innerPadding = kAround, .background = gray, .padding = kAround}}},
     };
 
-    for (const auto& one : cases) {
-        EXPECT_EQ(layers(one.element), one.layers) << one.order;
+    for (const auto& [order, element, expected] : cases) {
+        EXPECT_EQ(layers(element), expected) << order;
     }
 }
 
@@ -69,18 +53,14 @@ TEST(Modifiers, anInnerFontOrColourWinsOverAnOuterOne)
     EXPECT_EQ(stack.children()[1].modifiers().foreground, Color::destructive());
 }
 
-TEST(Modifiers, opacityMultipliesAndNothingEnablesWhatIsDisabled)
+TEST(Modifiers, opacityMultipliesNothingEnablesWhatIsDisabledAndTheKeyIsTheOutermostLayers)
 {
     const Element text = Text("").opacity(0.5).opacity(0.5).disabled(true).disabled(false);
-    EXPECT_DOUBLE_EQ(text.modifiers().opacity, 0.25);
+    EXPECT_EQ(text.modifiers().opacity, 0.25);
     EXPECT_FALSE(text.modifiers().enabled);
-}
-
-TEST(Modifiers, theKeyBelongsToTheOutermostLayer)
-{
-    const Element text = Text("").key("k").background(Color::gray()).frame(kFrame);
-    EXPECT_EQ(text.identity(), "k");
-    EXPECT_EQ(text.children().front().identity(), std::nullopt);
+    const Element keyed = Text("").key("k").background(Color::gray()).frame(kFrame);
+    EXPECT_EQ(keyed.identity(), "k");
+    EXPECT_EQ(keyed.children().front().identity(), std::nullopt);
 }
 
 } // namespace

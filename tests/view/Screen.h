@@ -32,9 +32,6 @@ public:
 
     explicit Screen(std::function<Element()> body) : Screen(std::make_unique<TestView>(std::move(body))) {}
 
-    Screen(const Screen&) = delete;
-    Screen& operator=(const Screen&) = delete;
-
     ~Screen() { tree->detach(); }
 
     void redraw()

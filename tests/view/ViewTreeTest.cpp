@@ -105,7 +105,7 @@ TEST(ViewTree, anActionThatEndsItsOwnTreeRunsToItsEnd)
 
 class Counted final : public View {
 public:
-    Counted(int& alive, int initial) : alive_(alive), value(makeState(initial)), own(makeState(0)) { ++alive_; }
+    Counted(int& alive, int initial) : value(makeState(initial)), own(makeState(0)), alive_(alive) { ++alive_; }
 
     ~Counted() override { --alive_; }
 
@@ -115,12 +115,11 @@ public:
                       [this] { own.set(own.get() + 1); });
     }
 
-private:
-    int& alive_;
-
-public:
     State<int> value;
     State<int> own;
+
+private:
+    int& alive_;
 };
 
 TEST(ViewTree, aNestedViewIsMadeOnceKeepsItsStateAndGetsTheNewestValue)

@@ -30,7 +30,7 @@ AlertPanel::~AlertPanel()
     }
 }
 
-void AlertPanel::show(const Alert& alert, GtkWindow* parent, std::function<void(std::size_t)> answer,
+void AlertPanel::show(const Alert& alert, GtkWindow* parent, const std::function<void(std::size_t)>& answer,
                       std::function<void()> closed)
 {
     if (!window_) {
@@ -43,7 +43,7 @@ void AlertPanel::show(const Alert& alert, GtkWindow* parent, std::function<void(
                      .message = alert.informativeText,
                      .buttons = alert.buttons,
                      .iconName = iconName(alert.style)},
-                    std::move(answer));
+                    answer);
     gtk_window_present(window_);
 }
 

@@ -16,7 +16,7 @@ public:
     ~AlertPanel() override;
 
     /// `answer` gets the place of the pressed button, `closed` is called when the program closes the panel.
-    void show(const Alert& alert, GtkWindow* parent, std::function<void(std::size_t)> answer,
+    void show(const Alert& alert, GtkWindow* parent, const std::function<void(std::size_t)>& answer,
               std::function<void()> closed);
     void hide();
 

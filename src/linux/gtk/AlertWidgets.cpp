@@ -74,7 +74,8 @@ GtkWindow* makeAlertWindow()
     return window;
 }
 
-void fillAlertWindow(GtkWindow* window, const AlertWidgetsContent& content, std::function<void(std::size_t)> answer)
+void fillAlertWindow(GtkWindow* window, const AlertWidgetsContent& content,
+                     const std::function<void(std::size_t)>& answer)
 {
     GtkWidget* row = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, kMargin);
     GtkWidget* icon = gtk_image_new_from_icon_name(content.iconName);

@@ -23,6 +23,7 @@ struct AlertWidgetsContent {
 
 /// Fills the window; `answer` gets the button's place in the list. The default button has the first focus, and Return
 /// presses it.
-void fillAlertWindow(GtkWindow* window, const AlertWidgetsContent& content, std::function<void(std::size_t)> answer);
+void fillAlertWindow(GtkWindow* window, const AlertWidgetsContent& content,
+                     const std::function<void(std::size_t)>& answer);
 
 } // namespace orken::desktop

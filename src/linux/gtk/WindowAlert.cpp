@@ -30,7 +30,7 @@ void pressOnEscape(GtkWindow* window, std::size_t button, const Answer& answer)
 
 } // namespace
 
-WindowAlert::WindowAlert(GtkWindow* parent, const AlertContent& content, WindowAlertGate& gate, Answer answer)
+WindowAlert::WindowAlert(GtkWindow* parent, const AlertContent& content, WindowAlertGate& gate, const Answer& answer)
     : window_(makeAlertWindow())
 {
     gtk_window_set_transient_for(window_, parent);

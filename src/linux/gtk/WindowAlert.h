@@ -27,7 +27,7 @@ public:
     /// Shown at once, or when the gate opens. `answer` gets the place of the pressed button; Escape presses the one
     /// with the cancel role.
     WindowAlert(GtkWindow* parent, const AlertContent& content, WindowAlertGate& gate,
-                std::function<void(std::size_t)> answer);
+                const std::function<void(std::size_t)>& answer);
 
     WindowAlert(const WindowAlert&) = delete;
     WindowAlert& operator=(const WindowAlert&) = delete;

@@ -12,8 +12,8 @@ public:
     static constexpr std::size_t kMaximumBodyBytes = 1024 * 1024;
 
     explicit BlockingReader(std::optional<std::string> certificateAuthorityFile = std::nullopt)
-        : BlockingReader(
-              HttpOptions{.certificateAuthorityFile = certificateAuthorityFile, .maximumBodyBytes = kMaximumBodyBytes})
+        : BlockingReader(HttpOptions{.certificateAuthorityFile = std::move(certificateAuthorityFile),
+                                     .maximumBodyBytes = kMaximumBodyBytes})
     {
     }
 

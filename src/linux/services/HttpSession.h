@@ -16,8 +16,8 @@ public:
     static constexpr std::size_t kMaximumBodyBytes = 64 * 1024 * 1024;
 
     explicit HttpSession(std::optional<std::string> certificateAuthorityFile = std::nullopt)
-        : HttpSession(
-              HttpOptions{.certificateAuthorityFile = certificateAuthorityFile, .maximumBodyBytes = kMaximumBodyBytes})
+        : HttpSession(HttpOptions{.certificateAuthorityFile = std::move(certificateAuthorityFile),
+                                  .maximumBodyBytes = kMaximumBodyBytes})
     {
     }
 
