@@ -15,8 +15,9 @@ inline bool hasRenderNode()
 {
     std::error_code unreadable;
     for (const auto& entry : std::filesystem::directory_iterator("/dev/dri", unreadable)) {
-        if (entry.path().filename().string().starts_with("renderD"))
+        if (entry.path().filename().string().starts_with("renderD")) {
             return true;
+        }
     }
     return false;
 }
@@ -24,8 +25,9 @@ inline bool hasRenderNode()
 /// Renders as the client does: in software where there is no card, unless the user has decided. Call it before GTK.
 inline void chooseRenderer()
 {
-    if (!hasRenderNode())
+    if (!hasRenderNode()) {
         setenv("GSK_RENDERER", "cairo", 0);
+    }
 }
 
 /// Runs an application whose one window is made by `activate`, until that is closed or SIGTERM comes.

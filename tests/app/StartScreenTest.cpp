@@ -11,7 +11,7 @@ TEST(StartScreen, openingClosesTheKeyWindowAndThenOpensTheSession)
     Client client;
     client.launch();
     client.desktop.loop.run();
-    EXPECT_TRUE(client.desktop.showing("Uygulama sürümü: 2.1"));
+    EXPECT_TRUE(client.desktop.showing("Uygulama sürümü: 2.1") && client.desktop.showing("Uygulamayı Sil"));
     EXPECT_FALSE(client.window(Client::kStartTitle)->content().alert());
     (void)client.desktop.journal.take();
     client.desktop.press("Uygulamayı Aç");

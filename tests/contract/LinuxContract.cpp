@@ -78,7 +78,7 @@ public:
     [[nodiscard]] std::filesystem::path makeFolder() override
     {
         const GText folder(g_dir_make_tmp("orken-contract-XXXXXX", nullptr));
-        const std::filesystem::path path = folder.get();
+        std::filesystem::path path = folder.get();
         std::filesystem::create_directory(path / "b");
         for (const auto* file : {"a", "b/c"}) {
             std::ofstream(path / file) << "content";

@@ -15,7 +15,7 @@ constexpr WindowStyleMask kOrdinary = 15;
 struct Bed {
     std::shared_ptr<Window> window(const std::string& title, bool shown = true)
     {
-        const auto made = desktop.windows.makeWindow({.width = 10, .height = 10}, kOrdinary);
+        auto made = desktop.windows.makeWindow({.width = 10, .height = 10}, kOrdinary);
         made->setTitle(title);
         if (shown) {
             made->makeKeyAndOrderFront();

@@ -24,7 +24,7 @@ public:
 
     [[nodiscard]] Outcome<std::vector<std::string>> contentsOfDirectory(const Path& directory) const override
     {
-        if (folders_.count(directory) == 0) {
+        if (!folders_.contains(directory)) {
             return failure(directory, exists(directory) ? ENOTDIR : ENOENT);
         }
         std::vector<std::string> names;

@@ -62,7 +62,7 @@ public:
     WindowPtr showPanel(std::function<void()> onClose)
     {
         const bool usesPermanent = permanentPanel_ && !permanentPanel_->isVisible();
-        const auto panel = usesPermanent ? permanentPanel_ : add(WindowKind::panel, windowStyle::kTitled);
+        auto panel = usesPermanent ? permanentPanel_ : add(WindowKind::panel, windowStyle::kTitled);
         panel->onClose = std::move(onClose);
         panel->setVisible(true);
         registry_.gotKeyboard(*panel);

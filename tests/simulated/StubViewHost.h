@@ -49,7 +49,7 @@ public:
     void press(const std::string& text);
     /// The alert that hangs on some element; absent when none is up.
     [[nodiscard]] std::optional<AlertContent> alert() const;
-    void answerAlert(const std::string& button);
+    void answerAlert(const std::string& title);
     /// The layout gives this size to every geometry reader.
     void layOut(Size size);
 
@@ -69,7 +69,7 @@ private:
     void take(const mutation::Update& step);
     Node& at(NodeId id);
     [[nodiscard]] std::vector<Rendered> render(NodeId parent) const;
-    [[nodiscard]] bool isUsable(NodeId node) const;
+    [[nodiscard]] bool isUsable(NodeId id) const;
     template <class Test>
     [[nodiscard]] std::optional<NodeId> findIf(const Test& test) const;
     [[nodiscard]] std::optional<NodeId> find(const std::string& text) const;
