@@ -7,7 +7,7 @@
 
 namespace orken {
 
-/// Windows of this application. Main thread only.
+/// Windows of this application. Main thread only, once the application runs.
 class Windows {
 public:
     Windows() = default;

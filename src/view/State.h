@@ -22,7 +22,7 @@ public:
 
     void clear() { dirty_ = false; }
 
-    /// The tree that redraws the view; replaced with an empty function when the view leaves it.
+    /// What a mark asks for a redraw; it must not keep the tree alive.
     void connect(std::function<void()> onMark) { onMark_ = std::move(onMark); }
 
 private:
