@@ -115,6 +115,7 @@ std::unique_ptr<ContractDesktop> makeDesktop()
 
 namespace orken {
 
-INSTANTIATE_TEST_SUITE_P(linux_, Contract, testing::Values(&desktop::makeDesktop));
+INSTANTIATE_TEST_SUITE_P(linux_, Contract, testing::Values(&desktop::makeDesktop),
+                         [](const auto&) { return "desktop"; });
 
 } // namespace orken

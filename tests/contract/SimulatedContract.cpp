@@ -53,6 +53,7 @@ std::unique_ptr<ContractDesktop> makeDesktop()
 
 namespace orken {
 
-INSTANTIATE_TEST_SUITE_P(simulated, Contract, testing::Values(&simulated::makeDesktop));
+INSTANTIATE_TEST_SUITE_P(simulated, Contract, testing::Values(&simulated::makeDesktop),
+                         [](const auto&) { return "desktop"; });
 
 } // namespace orken
