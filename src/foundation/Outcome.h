@@ -18,6 +18,7 @@ public:
     Outcome(T value) : content_(std::in_place_index<0>, std::move(value)) {}
 
     Outcome(PlatformError error) : content_(std::in_place_index<1>, std::move(error)) {}
+
     // NOLINTEND(google-explicit-constructor)
 
     explicit operator bool() const { return content_.index() == 0; }
