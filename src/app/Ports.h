@@ -4,6 +4,7 @@
 #include "platform/Application.h"
 #include "platform/BrowserView.h"
 #include "platform/BundleInfo.h"
+#include "platform/Clock.h"
 #include "platform/Console.h"
 #include "platform/ContentsReader.h"
 #include "platform/CookieStorage.h"
@@ -11,8 +12,10 @@
 #include "platform/HardwareRegistry.h"
 #include "platform/MainQueue.h"
 #include "platform/NotificationCenter.h"
+#include "platform/UrlSession.h"
 #include "platform/WebsiteDataStore.h"
 #include "platform/Windows.h"
+#include "platform/Workspace.h"
 
 namespace orken {
 
@@ -23,10 +26,14 @@ struct Ports {
     NotificationCenter& notifications;
     MainQueue& mainQueue;
     Console& console;
+    const Clock& clock;
+    Alerts& alerts;
+    Workspace& workspace;
     BundleInfo& bundle;
     Files& files;
     CookieStorage& cookies;
     WebsiteDataStore& websiteData;
+    UrlSession& urlSession;
     ContentsReader& contentsReader;
     HardwareRegistry& hardware;
     BrowserViews& browserViews;
@@ -41,10 +48,14 @@ template <class Desktop>
             .notifications = desktop.notifications,
             .mainQueue = desktop.mainQueue,
             .console = desktop.console,
+            .clock = desktop.clock,
+            .alerts = desktop.alerts,
+            .workspace = desktop.workspace,
             .bundle = desktop.bundle,
             .files = desktop.files,
             .cookies = desktop.urlSession,
             .websiteData = desktop.engine,
+            .urlSession = desktop.urlSession,
             .contentsReader = desktop.contentsReader,
             .hardware = desktop.hardware,
             .browserViews = desktop.engine};

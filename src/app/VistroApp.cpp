@@ -10,7 +10,19 @@ VistroApp::VistroApp(const Ports& ports, Endpoints endpoints)
     : ports_(ports), endpoints_(std::move(endpoints)),
       appDelegate_(ports.cookies, ports.websiteData, ports.files, endpoints_.bundleIdentifier),
       identity_(ports.hardware, ports.contentsReader, endpoints_.ipEchoURL),
-      versionGate_(ports.bundle, ports.application), windowControl_(ports.windows, ports.notifications, ports.console)
+      versionGate_(ports.bundle, ports.application), windowControl_(ports.windows, ports.notifications, ports.console),
+      loginParameter_({.urlSession = ports.urlSession,
+                       .mainQueue = ports.mainQueue,
+                       .console = ports.console,
+                       .clock = ports.clock,
+                       .identity = identity_},
+                      endpoints_.ipEchoURL),
+      pdfDownload_({.console = ports.console,
+                    .mainQueue = ports.mainQueue,
+                    .files = ports.files,
+                    .alerts = ports.alerts,
+                    .workspace = ports.workspace,
+                    .clock = ports.clock})
 {
 }
 
@@ -49,7 +61,9 @@ std::unique_ptr<View> VistroApp::makeSessionScreen(const std::string& link)
 {
     return std::make_unique<WebView>(link, WebView::Ports{.browserViews = ports_.browserViews,
                                                           .windowControl = windowControl_,
-                                                          .console = ports_.console});
+                                                          .browserServices = {.console = ports_.console,
+                                                                              .loginParameter = loginParameter_,
+                                                                              .pdfDownload = pdfDownload_}});
 }
 
 } // namespace orken

@@ -3,6 +3,8 @@
 #include "app/AppDelegate.h"
 #include "app/Ports.h"
 #include "app/VersionGate.h"
+#include "browser/LoginParameter.h"
+#include "browser/PdfDownload.h"
 #include "crypto/DeviceIdentity.h"
 #include "foundation/Endpoints.h"
 #include "session/WindowControl.h"
@@ -34,6 +36,8 @@ private:
     DeviceIdentity identity_;
     VersionGate versionGate_;
     WindowControl windowControl_;
+    LoginParameter loginParameter_;
+    PdfDownload pdfDownload_;
 };
 
 } // namespace orken

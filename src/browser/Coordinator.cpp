@@ -1,7 +1,5 @@
 #include "browser/Coordinator.h"
 
-#include "browser/LoginParameter.h"
-#include "browser/PdfDownload.h"
 #include "foundation/Url.h"
 
 namespace orken {
@@ -21,7 +19,7 @@ void Coordinator::didFinishNavigation(BrowserView& view)
         return;
     }
     if (url.find("Login") != std::string::npos) {
-        startLoginParameter(view);
+        services_.loginParameter.startLoginParameter(weak_from_this(), view.shared_from_this());
     }
     // Set for any first page: a login page that comes later gets no parameter.
     viewModel_->hasExecuted = true;
@@ -43,13 +41,13 @@ void Coordinator::decidePolicyForNavigationAction(BrowserView& view, const Navig
 {
     const auto scheme = action.requestUrl ? urlScheme(*action.requestUrl) : std::nullopt;
     if (action.requestUrl) {
-        console_.printLine("Gelen data tipi " + scheme.value_or("unknown"));
+        services_.console.printLine("Gelen data tipi " + scheme.value_or("unknown"));
     }
     if (!scheme) {
         // The engine waits for an answer to every action, and there is nothing here that could be loaded.
         decide(NavigationPolicy::cancel);
     } else if (*scheme == "blob") {
-        downloadBlob(view, action, decide);
+        services_.pdfDownload.downloadBlob(view, action, decide);
     } else {
         decide(NavigationPolicy::allow);
     }

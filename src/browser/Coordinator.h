@@ -1,5 +1,7 @@
 #pragma once
 
+#include "browser/LoginParameter.h"
+#include "browser/PdfDownload.h"
 #include "platform/Console.h"
 #include "platform/NavigationDelegate.h"
 #include "session/WebViewModel.h"
@@ -10,10 +12,16 @@ namespace orken {
 
 /// The session's navigation delegate: copies what finished pages say into the model, accepts the server's certificate
 /// whatever it is, and lets every navigation through except those to `blob:` addresses. Main thread only.
-class Coordinator final : public NavigationDelegate {
+class Coordinator final : public NavigationDelegate, public std::enable_shared_from_this<Coordinator> {
 public:
-    Coordinator(std::shared_ptr<WebViewModel> viewModel, Console& console)
-        : viewModel_(std::move(viewModel)), console_(console)
+    struct Services {
+        Console& console;
+        LoginParameter& loginParameter;
+        PdfDownload& pdfDownload;
+    };
+
+    Coordinator(std::shared_ptr<WebViewModel> viewModel, const Services& services)
+        : viewModel_(std::move(viewModel)), services_(services)
     {
     }
 
@@ -27,7 +35,7 @@ public:
 
 private:
     std::shared_ptr<WebViewModel> viewModel_;
-    Console& console_;
+    Services services_;
 };
 
 } // namespace orken

@@ -15,7 +15,7 @@ constexpr const char* kContextMenuScript = "document.addEventListener(\"contextm
 
 std::shared_ptr<Coordinator> SwiftUIWebView::makeCoordinator() const
 {
-    return std::make_shared<Coordinator>(viewModel_, console_);
+    return std::make_shared<Coordinator>(viewModel_, services_);
 }
 
 std::shared_ptr<BrowserView> SwiftUIWebView::makeNSView(const Context& context)

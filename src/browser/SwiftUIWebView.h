@@ -21,9 +21,9 @@ public:
     using Context = RepresentableContext<Coordinator>;
 
     SwiftUIWebView(std::shared_ptr<WebViewModel> viewModel, State<bool> removedIdentity,
-                   std::shared_ptr<BrowserView> webView, Console& console)
+                   std::shared_ptr<BrowserView> webView, const Coordinator::Services& services)
         : viewModel_(std::move(viewModel)), removedIdentity_(std::move(removedIdentity)), webView_(std::move(webView)),
-          console_(console)
+          services_(services)
     {
     }
 
@@ -39,7 +39,7 @@ private:
     /// Carried with the view; the flag that the page scripts use is the model's.
     State<bool> removedIdentity_;
     std::shared_ptr<BrowserView> webView_;
-    Console& console_;
+    Coordinator::Services services_;
 };
 
 } // namespace orken

@@ -58,23 +58,44 @@ bool hasForbiddenCharacter(std::string_view text)
     return false;
 }
 
+/// The components as pieces of the text.
+struct Pieces {
+    std::string_view scheme;
+    std::optional<std::string_view> user;
+    std::optional<std::string_view> host;
+    std::optional<int> port;
+    std::string_view path;
+    std::optional<std::string_view> query;
+    std::optional<std::string_view> fragment;
+};
+
 /// Takes what follows the first `mark` off `text`, and the mark; absent, and `text` untouched, without a mark.
-std::optional<std::string> splitOff(std::string_view& text, char mark)
+std::optional<std::string_view> splitOff(std::string_view& text, char mark)
 {
     const std::size_t at = text.find(mark);
     if (at == std::string_view::npos) {
         return std::nullopt;
     }
-    std::string rest(text.substr(at + 1));
+    const std::string_view rest = text.substr(at + 1);
     text = text.substr(0, at);
     return rest;
 }
 
+/// What stands before the first ":"; absent when that is no scheme.
+std::optional<std::string_view> schemeOf(std::string_view text)
+{
+    const std::string_view scheme = text.substr(0, text.find(':'));
+    const bool valid = scheme.size() < text.size() && !scheme.empty() && isAlpha(scheme.front()) &&
+                       std::all_of(scheme.begin(), scheme.end(),
+                                   [](char c) { return isAlpha(c) || isDigit(c) || c == '+' || c == '-' || c == '.'; });
+    return valid ? std::optional(scheme) : std::nullopt;
+}
+
 /// `[userinfo@]host[:port]`; false when it is none.
-bool readAuthority(std::string_view authority, UrlComponents& components)
+bool readAuthority(std::string_view authority, Pieces& pieces)
 {
     if (const std::size_t at = authority.rfind('@'); at != std::string_view::npos) {
-        components.user = authority.substr(0, at);
+        pieces.user = authority.substr(0, at);
         authority.remove_prefix(at + 1);
     }
     std::size_t hostEnd = authority.find(':');
@@ -91,52 +112,71 @@ bool readAuthority(std::string_view authority, UrlComponents& components)
     const auto refuses = [](std::string_view part) {
         return part.find_first_of(kNotInAuthority) != std::string_view::npos;
     };
-    if (refuses(name) || refuses(components.user.value_or("")) || (!rest.empty() && rest.front() != ':')) {
+    if (refuses(name) || refuses(pieces.user.value_or("")) || (!rest.empty() && rest.front() != ':')) {
         return false;
     }
-    components.host = authority.substr(0, hostEnd);
+    pieces.host = authority.substr(0, hostEnd);
     if (rest.size() > 1) {
         std::uint16_t port = 0;
         const auto [end, error] = std::from_chars(rest.data() + 1, rest.data() + rest.size(), port);
         if (error != std::errc() || end != rest.data() + rest.size()) {
             return false;
         }
-        components.port = port;
+        pieces.port = port;
     }
     return true;
+}
+
+std::optional<Pieces> split(std::string_view text)
+{
+    const auto scheme = schemeOf(text);
+    if (!scheme || hasForbiddenCharacter(text)) {
+        return std::nullopt;
+    }
+    Pieces pieces{.scheme = *scheme};
+    text.remove_prefix(scheme->size() + 1);
+    pieces.fragment = splitOff(text, '#');
+    pieces.query = splitOff(text, '?');
+    if (text.starts_with("//")) {
+        const std::string_view authority = text.substr(2, text.find('/', 2) - 2);
+        if (!readAuthority(authority, pieces)) {
+            return std::nullopt;
+        }
+        text.remove_prefix(2 + authority.size());
+    }
+    pieces.path = text;
+    return pieces;
 }
 
 } // namespace
 
 std::optional<UrlComponents> parseUrl(std::string_view text)
 {
-    const auto scheme = urlScheme(text);
-    if (!scheme || hasForbiddenCharacter(text)) {
+    const auto pieces = split(text);
+    if (!pieces) {
         return std::nullopt;
     }
-    UrlComponents components;
-    components.scheme = *scheme;
-    text.remove_prefix(scheme->size() + 1);
-    components.fragment = splitOff(text, '#');
-    components.query = splitOff(text, '?');
-    if (text.starts_with("//")) {
-        const std::string_view authority = text.substr(2, text.find('/', 2) - 2);
-        if (!readAuthority(authority, components)) {
-            return std::nullopt;
-        }
-        text.remove_prefix(2 + authority.size());
-    }
-    components.path = text;
-    return components;
+    const auto copy = [](const std::optional<std::string_view>& piece) {
+        return piece ? std::optional<std::string>(*piece) : std::nullopt;
+    };
+    return UrlComponents{.scheme = std::string(pieces->scheme),
+                         .user = copy(pieces->user),
+                         .host = copy(pieces->host),
+                         .port = pieces->port,
+                         .path = std::string(pieces->path),
+                         .query = copy(pieces->query),
+                         .fragment = copy(pieces->fragment)};
+}
+
+bool isUrl(std::string_view text)
+{
+    return split(text).has_value();
 }
 
 std::optional<std::string> urlScheme(std::string_view text)
 {
-    const std::string_view scheme = text.substr(0, text.find(':'));
-    const bool valid = scheme.size() < text.size() && !scheme.empty() && isAlpha(scheme.front()) &&
-                       std::all_of(scheme.begin(), scheme.end(),
-                                   [](char c) { return isAlpha(c) || isDigit(c) || c == '+' || c == '-' || c == '.'; });
-    return valid ? std::optional<std::string>(scheme) : std::nullopt;
+    const auto scheme = schemeOf(text);
+    return scheme ? std::optional<std::string>(*scheme) : std::nullopt;
 }
 
 std::string percentDecodedBytes(std::string_view text)

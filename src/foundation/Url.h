@@ -28,6 +28,9 @@ struct UrlComponents {
 /// addresses.
 [[nodiscard]] std::optional<UrlComponents> parseUrl(std::string_view text);
 
+/// Whether `parseUrl` gives something, found out without a copy: a `data:` URL holds a whole document.
+[[nodiscard]] bool isUrl(std::string_view text);
+
 /// What stands before the first ":" when that is a scheme (RFC 3986, section 3.1), as it is written; absent otherwise.
 [[nodiscard]] std::optional<std::string> urlScheme(std::string_view text);
 

@@ -7,12 +7,14 @@
 #include "linux/gtk/DesktopWindows.h"
 #include "linux/services/BlockingReader.h"
 #include "linux/services/BuiltBundleInfo.h"
+#include "linux/services/FileManager.h"
 #include "linux/services/HttpSession.h"
 #include "linux/services/LocalFiles.h"
 #include "linux/services/LoopTimers.h"
 #include "linux/services/MachineHardware.h"
 #include "linux/services/MainLoopQueue.h"
 #include "linux/services/StandardConsole.h"
+#include "linux/services/SystemClock.h"
 #include "platform/AlertStack.h"
 #include "platform/NotificationCenter.h"
 
@@ -50,8 +52,10 @@ public:
     MainLoopQueue mainQueue;
     LoopTimers timers{alertStack_};
     StandardConsole console;
+    SystemClock clock;
     BuiltBundleInfo bundle;
     LocalFiles files;
+    FileManager workspace;
     MachineHardware hardware;
     HttpSession urlSession;
     BlockingReader contentsReader;

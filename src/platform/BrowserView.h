@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/NavigationDelegate.h"
+#include "platform/ScriptValue.h"
 #include "platform/Seconds.h"
 #include "view/Representable.h"
 
@@ -43,8 +44,8 @@ public:
     virtual void addUserScript(const UserScript& script) = 0;
 };
 
-/// The web engine's view. Main thread only.
-class BrowserView : public PlatformView {
+/// The web engine's view, held by shared pointers. Main thread only, its destruction included.
+class BrowserView : public PlatformView, public std::enable_shared_from_this<BrowserView> {
 public:
     /// Not kept alive by the view; without one every navigation is allowed and every challenge cancelled.
     virtual void setNavigationDelegate(std::weak_ptr<NavigationDelegate> delegate) = 0;
@@ -60,6 +61,14 @@ public:
     /// Absolute address of the page, from the load call on that of the requested one; absent before the first load and
     /// after a failed first one.
     [[nodiscard]] virtual std::optional<std::string> url() const = 0;
+
+    /// Runs a script in the page's own world of the main frame. The completion comes once, later.
+    virtual void evaluateJavaScript(const std::string& script, ScriptCompletion completion) = 0;
+
+    /// Runs the body of an asynchronous function, which may `await` and `return`, in the main frame and in the client's
+    /// own world: the page can put nothing in the place of the standard functions there. The completion comes once when
+    /// the returned promise has settled, so it may never come.
+    virtual void callAsyncJavaScript(const std::string& functionBody, ScriptCompletion completion) = 0;
 };
 
 class BrowserViews {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/Bytes.h"
 #include "foundation/Outcome.h"
 
 #include <filesystem>
@@ -19,6 +20,9 @@ public:
     /// The user's caches directories, absolute; empty when the desktop names none.
     [[nodiscard]] virtual std::vector<std::filesystem::path> cachesDirectories() const = 0;
 
+    /// The user's folder for downloads, absolute; made where it is missing. The error says why there is none.
+    [[nodiscard]] virtual Outcome<std::filesystem::path> downloadsDirectory() = 0;
+
     /// Names of the entries, without "." and "..", in the file system's order; not recursive.
     [[nodiscard]] virtual Outcome<std::vector<std::string>>
     contentsOfDirectory(const std::filesystem::path& directory) const = 0;
@@ -26,6 +30,9 @@ public:
     /// Removes a link itself, a folder with all its contents. The first error ends it, and what is gone is gone. A
     /// missing item is an error with the code `ENOENT`.
     [[nodiscard]] virtual Outcome<void> removeItem(const std::filesystem::path& item) = 0;
+
+    /// Writes the whole file in its place, following a link there. What was in it is gone also when writing fails.
+    [[nodiscard]] virtual Outcome<void> writeFile(const std::filesystem::path& file, const Bytes& content) = 0;
 };
 
 } // namespace orken

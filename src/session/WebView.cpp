@@ -12,7 +12,8 @@ Element WebView::body()
 {
     // The factory runs once: a redraw must never bring a new browser view.
     auto makeBrowser = [this] {
-        return std::make_unique<SwiftUIWebView>(model_, makeState(false), ports_.browserViews.make(), ports_.console);
+        return std::make_unique<SwiftUIWebView>(model_, makeState(false), ports_.browserViews.make(),
+                                                ports_.browserServices);
     };
     return ZStack({
         Representable<SwiftUIWebView>(makeBrowser).disabled(!model_->didFinishLoading.get()).onAppear([this] {

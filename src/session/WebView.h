@@ -16,7 +16,7 @@ public:
     struct Ports {
         BrowserViews& browserViews;
         WindowControl& windowControl;
-        Console& console;
+        Coordinator::Services browserServices;
     };
 
     WebView(const std::string& link, const Ports& ports);

@@ -31,8 +31,8 @@ public:
 
     simulated::SimulatedDesktop desktop;
     VistroApp app{{desktop.application, desktop.windows, desktop.notifications, desktop.loop, desktop.console,
-                   desktop.bundle, desktop.files, desktop.cookies, desktop.websiteData, desktop.network,
-                   desktop.hardware, desktop.browserViews},
+                   desktop.clock, desktop.alerts, desktop.workspace, desktop.bundle, desktop.files, desktop.cookies,
+                   desktop.websiteData, desktop.network, desktop.network, desktop.hardware, desktop.browserViews},
                   {.bundleIdentifier = "com.orken.test",
                    .version = "2.1",
                    .contentHost = "content.example",

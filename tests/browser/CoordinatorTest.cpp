@@ -1,6 +1,4 @@
-#include "browser/Coordinator.h"
-
-#include "simulated/SimulatedDesktop.h"
+#include "browser/Bed.h"
 
 #include <gmock/gmock.h>
 
@@ -12,21 +10,7 @@ using testing::ElementsAre;
 constexpr const char* kHome = "https://site.example/Home";
 constexpr const char* kLogin = "https://site.example/Account/Login";
 
-struct Bed {
-    Bed() { view->setNavigationDelegate(coordinator); }
-
-    void go(const std::string& url)
-    {
-        view->navigate(url);
-        desktop.loop.run();
-    }
-
-    simulated::SimulatedDesktop desktop;
-    std::shared_ptr<WebViewModel> model = std::make_shared<WebViewModel>("first");
-    std::shared_ptr<Coordinator> coordinator = std::make_shared<Coordinator>(model, desktop.console);
-    std::shared_ptr<BrowserView> made = desktop.browserViews.make();
-    std::shared_ptr<simulated::SimulatedBrowserView> view = desktop.browserViews.latest;
-};
+using Bed = BrowserBed;
 
 TEST(Coordinator, writesTitleThenAddressThenTheFlagForEveryFinishedPage)
 {
@@ -85,7 +69,9 @@ TEST(Coordinator, letsEverythingThroughButBlobsAndWhatHasNoScheme)
         {"data:text/plain,x", NavigationPolicy::allow, {"print Gelen data tipi data"}},
         {"about:blank", NavigationPolicy::allow, {"print Gelen data tipi about"}},
         {"BLOB:https://site.example/1", NavigationPolicy::allow, {"print Gelen data tipi BLOB"}},
-        {"blob:https://site.example/1", NavigationPolicy::cancel, {"print Gelen data tipi blob"}},
+        {"blob:https://site.example/1",
+         NavigationPolicy::cancel,
+         {"print Gelen data tipi blob", "print Veri çözülemedi."}},
         {"no-scheme", NavigationPolicy::cancel, {"print Gelen data tipi unknown"}},
         {std::nullopt, NavigationPolicy::cancel, {}},
     };

@@ -1,6 +1,6 @@
 #include "browser/SwiftUIWebView.h"
 
-#include "simulated/SimulatedDesktop.h"
+#include "browser/Bed.h"
 
 #include <gmock/gmock.h>
 
@@ -16,11 +16,13 @@ constexpr const char* kPage = "https://site.example/";
 
 std::vector<std::string> actsOfMaking(const std::string& link)
 {
-    simulated::SimulatedDesktop desktop;
+    BrowserBed bed;
+    simulated::SimulatedDesktop& desktop = bed.desktop;
+    (void)desktop.journal.take();
     desktop.browserViews.site = {{kPage, {.title = "page"}}};
     const auto model = std::make_shared<WebViewModel>(link);
     const auto made = desktop.browserViews.make();
-    SwiftUIWebView host(model, State<bool>({}, false), made, desktop.console);
+    SwiftUIWebView host(model, State<bool>({}, false), made, bed.services);
     const SwiftUIWebView::Context context{.coordinator = host.makeCoordinator()};
     EXPECT_EQ(host.makeNSView(context), made);
     EXPECT_EQ(model->webView, made);

@@ -115,6 +115,34 @@ std::unique_ptr<ContractDesktop> makeDesktop()
 
 namespace orken {
 
+TEST(ScriptValues, ofTheEngineAreWhatTheScriptsEndWith)
+{
+    gtk_init();
+    desktop::ContractSide desktop;
+    const auto view = desktop.ports().browserViews.make();
+    const auto resultOf = [&](const std::string& script) {
+        std::optional<ScriptResult> result;
+        view->evaluateJavaScript(script, [&](ScriptResult given) { result = std::move(given); });
+        EXPECT_TRUE(desktop.runUntil([&] { return result.has_value(); }, Seconds{30})) << script;
+        return *result;
+    };
+    for (const char* script : {"null", "1.5", "true", "[1]"}) {
+        const auto result = resultOf(script);
+        EXPECT_TRUE(result && result.value() && !textOf(result) && !dictionaryOf(result)) << script;
+    }
+    EXPECT_EQ(textOf(resultOf("'Ö\\u0000ş'"))->view(), std::string_view("Ö\0ş", 5));
+    const auto dictionary = resultOf("({text: 'a', empty: '', number: 1, nothing: null, undefined: undefined})");
+    ASSERT_TRUE(dictionaryOf(dictionary));
+    EXPECT_EQ(dictionaryOf(dictionary)->size(), 2U);
+    for (const char* script :
+         {"document.createElement('p')", "(function() {})", "throw new Error('x')", "nowhere.x", "("}) {
+        const auto result = resultOf(script);
+        EXPECT_TRUE(!result && !result.error().message.empty() &&
+                    result.error().message.find('\n') == std::string::npos)
+            << script;
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(linux_, Contract, testing::Values(&desktop::makeDesktop),
                          [](const auto&) { return "desktop"; });
 

@@ -15,6 +15,9 @@ TEST_P(Contract, filesAreListedWithoutTheirContentsAndRemovedWithThem)
     std::sort(names.begin(), names.end());
     EXPECT_EQ(names, (std::vector<std::string>{"a", "b"}));
 
+    EXPECT_TRUE(ports.files.writeFile(folder / "b" / "d", {'x'}));
+    EXPECT_EQ(ports.files.contentsOfDirectory(folder / "b").value().size(), 2U);
+    EXPECT_EQ(ports.files.writeFile(folder / "b", {'x'}).error().code, EISDIR);
     EXPECT_TRUE(ports.files.removeItem(folder / "b"));
     EXPECT_EQ(ports.files.contentsOfDirectory(folder / "b").error().code, ENOENT);
     EXPECT_EQ(ports.files.removeItem(folder / "b").error().code, ENOENT);
@@ -52,6 +55,23 @@ TEST_P(Contract, aBrowserViewHasNoPageUntilItIsGivenOneItCanParse)
     view->load({.url = refused});
     EXPECT_EQ(view->url(), refused);
     EXPECT_TRUE(runUntil([&] { return !view->url(); })) << "no address after a failed first load";
+}
+
+TEST_P(Contract, aScriptsCompletionComesOnceAndLater)
+{
+    launch();
+    const auto view = ports.browserViews.make();
+    int completions = 0;
+    const auto count = [&](const ScriptResult& result) {
+        EXPECT_TRUE(result && !result.value()) << "undefined is absent and no error";
+        ++completions;
+    };
+    view->evaluateJavaScript("var x = 1;", count);
+    view->callAsyncJavaScript("await null;", count);
+    EXPECT_EQ(completions, 0);
+    EXPECT_TRUE(runUntil([&] { return completions == 2; }));
+    settle();
+    EXPECT_EQ(completions, 2);
 }
 
 TEST_P(Contract, websiteDataIsFetchedLater)

@@ -3,7 +3,9 @@
 
 #include <gmock/gmock.h>
 
+#include <cerrno>
 #include <fstream>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace orken::desktop {
@@ -44,6 +46,28 @@ TEST_F(MachineServices, removalTakesFoldersAndLinksButNotWhatLinksLeadTo)
     }
     EXPECT_TRUE(fs::is_empty(folder_ / "cache"));
     EXPECT_TRUE(fs::exists(kept));
+}
+
+TEST_F(MachineServices, aFileIsWrittenWholeOrItsErrorIsGiven)
+{
+    LocalFiles files;
+    const fs::path file = write("file", "longer than what replaces it");
+    EXPECT_TRUE(files.writeFile(file, {'n', 'e', 'w'}));
+    std::string content;
+    std::getline(std::ifstream(file), content);
+    EXPECT_EQ(content, "new");
+
+    fs::create_symlink("/dev/full", folder_ / "full");
+    ASSERT_EQ(mkfifo((folder_ / "pipe").c_str(), 0600), 0);
+    const std::pair<fs::path, int> cases[] = {
+        {folder_ / "full", ENOSPC}, {folder_ / "cache", EISDIR},
+        {file / "below", ENOTDIR},  {folder_ / "missing/file", ENOENT},
+        {folder_ / "pipe", ENXIO},  {folder_ / std::string(300, 'a'), ENAMETOOLONG}};
+    for (const auto& [path, code] : cases) {
+        const auto written = files.writeFile(path, {'x'});
+        ASSERT_FALSE(written) << path;
+        EXPECT_EQ(written.error().code, code) << path;
+    }
 }
 
 TEST_F(MachineServices, theFirstIdentityThatIsTextCounts)

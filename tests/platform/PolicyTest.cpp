@@ -1,5 +1,6 @@
 #include "platform/AlertStack.h"
 #include "platform/FullScreenTransition.h"
+#include "platform/ReloadLimit.h"
 #include "platform/TimerGrid.h"
 #include "platform/WindowRegistry.h"
 
@@ -143,6 +144,16 @@ TEST(WindowRegistry, panelsAndToolkitWindowsDoNotKeepTheApplicationOpen)
     EXPECT_FALSE(registry.isLastVisibleApplicationWindow(*start));
     session->shown = false;
     EXPECT_TRUE(registry.isLastVisibleApplicationWindow(*start));
+}
+
+TEST(ReloadLimit, allowsThreeReloadsInAnyMinute)
+{
+    ReloadLimit limit;
+    std::string answers;
+    for (const double now : {0.0, 10.0, 20.0, 30.0, 59.9, 60.0, 61.0, 70.0, 80.0, 81.0}) {
+        answers += limit.allows(Seconds{now}) ? 'y' : 'n';
+    }
+    EXPECT_EQ(answers, "yyynnynyyn");
 }
 
 } // namespace

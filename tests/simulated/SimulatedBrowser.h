@@ -27,9 +27,7 @@ struct Page {
 using Site = std::map<std::string, Page>;
 
 /// A browser view whose pages are a table; addresses that are not in it fail.
-class SimulatedBrowserView final : public BrowserView,
-                                   public BrowserConfiguration,
-                                   public std::enable_shared_from_this<SimulatedBrowserView> {
+class SimulatedBrowserView final : public BrowserView, public BrowserConfiguration {
 public:
     SimulatedBrowserView(MainLoop& loop, Journal& journal, const Site& site)
         : loop_(loop), journal_(journal), site_(site)
@@ -78,6 +76,21 @@ public:
                      (script.forMainFrameOnly ? " of the main frame: " : " of every frame: ") + script.source);
     }
 
+    void evaluateJavaScript(const std::string& script, ScriptCompletion completion) override
+    {
+        run("script\n", script, std::move(completion));
+    }
+
+    void callAsyncJavaScript(const std::string& functionBody, ScriptCompletion completion) override
+    {
+        run("function\n", functionBody, std::move(completion));
+    }
+
+    /// What a script ends with; absent for one that never does.
+    std::function<std::optional<ScriptResult>(const std::string& script)> onScript = [](const auto&) {
+        return ScriptResult(std::optional<ScriptValue>());
+    };
+
     /// The page or the user goes to an address.
     void navigate(const std::string& url)
     {
@@ -100,6 +113,16 @@ private:
             require(!std::exchange(*decided, true), "a decision was given twice");
             decide(answer);
         };
+    }
+
+    void run(const std::string& kind, const std::string& script, ScriptCompletion completion)
+    {
+        loop_.requireMainThread();
+        journal_.add(kind + script);
+        if (auto result = onScript(script)) {
+            loop_.later(Seconds{0},
+                        [result = std::move(*result), completion = std::move(completion)] { completion(result); });
+        }
     }
 
     void setUp(const std::string& setting, const std::string& value) { journal_.add(setting + value); }
@@ -162,8 +185,8 @@ private:
     /// Nothing happens once another load has begun.
     void onThisLoad(Seconds delay, std::function<void()> step)
     {
-        loop_.later(delay, [weak = weak_from_this(), load = loads_, step = std::move(step)] {
-            if (const auto view = weak.lock(); view && view->loads_ == load) {
+        loop_.later(delay, [this, weak = weak_from_this(), load = loads_, step = std::move(step)] {
+            if (const auto alive = weak.lock(); alive && loads_ == load) {
                 step();
             }
         });

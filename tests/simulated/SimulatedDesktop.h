@@ -28,6 +28,8 @@ public:
     SimulatedApplication application{loop, windows, journal};
     SimulatedAlerts alerts{loop, windows, application, journal};
     SimulatedConsole console{journal};
+    SimulatedClock clock;
+    SimulatedWorkspace workspace{journal};
     SimulatedHardware hardware;
     SimulatedBundle bundle;
     SimulatedCookies cookies{journal};

@@ -22,6 +22,11 @@ public:
 
     [[nodiscard]] std::vector<Path> cachesDirectories() const override { return caches; }
 
+    [[nodiscard]] Outcome<Path> downloadsDirectory() override
+    {
+        return downloads ? Outcome<Path>(*downloads) : failure("/home/student/Downloads", EACCES);
+    }
+
     [[nodiscard]] Outcome<std::vector<std::string>> contentsOfDirectory(const Path& directory) const override
     {
         if (!folders_.contains(directory)) {
@@ -55,6 +60,19 @@ public:
         return {};
     }
 
+    [[nodiscard]] Outcome<void> writeFile(const Path& file, const Bytes& content) override
+    {
+        if (const int code = codeOfWriting(file)) {
+            return failure(file, code);
+        }
+        if (!exists(file)) {
+            addFile(file);
+        }
+        contents[file] = content;
+        journal_.add("write " + file.string());
+        return {};
+    }
+
     /// The folders above are made where they are missing.
     void addFile(const Path& file)
     {
@@ -74,8 +92,23 @@ public:
     std::vector<Path> caches{"/home/student/.cache"};
     /// Removals that fail, with this error code.
     std::map<Path, int> failingRemovals;
+    std::map<Path, int> failingWrites;
+    /// Absent: it cannot be made.
+    std::optional<Path> downloads = "/home/student/Downloads";
+    /// What was written.
+    std::map<Path, Bytes> contents;
 
 private:
+    [[nodiscard]] int codeOfWriting(const Path& file) const
+    {
+        const auto failing = failingWrites.find(file);
+        const bool isLong = file.filename().string().size() > 255;
+        return failing != failingWrites.end() ? failing->second
+               : folders_.contains(file)      ? EISDIR
+               : isLong                       ? ENAMETOOLONG
+                                              : 0;
+    }
+
     static PlatformError failure(const Path& item, int code)
     {
         return platformError("posix", code, item.string(), "error " + std::to_string(code));

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "platform/BundleInfo.h"
+#include "platform/Clock.h"
 #include "platform/Console.h"
 #include "platform/CookieStorage.h"
 #include "platform/HardwareRegistry.h"
+#include "platform/Workspace.h"
 #include "simulated/Journal.h"
 
 #include <map>
@@ -17,6 +19,25 @@ public:
     explicit SimulatedConsole(Journal& journal) : journal_(journal) {}
 
     void printLine(std::string_view line) override { journal_.add("print " + std::string(line)); }
+
+private:
+    Journal& journal_;
+};
+
+/// Stands still until it is set.
+class SimulatedClock final : public Clock {
+public:
+    [[nodiscard]] std::chrono::system_clock::time_point now() const override { return time; }
+
+    /// 2026-11-16 21:03:25.123 UTC.
+    std::chrono::system_clock::time_point time{std::chrono::milliseconds{1794863005123}};
+};
+
+class SimulatedWorkspace final : public Workspace {
+public:
+    explicit SimulatedWorkspace(Journal& journal) : journal_(journal) {}
+
+    void activateFileViewer(const std::filesystem::path& file) override { journal_.add("reveal " + file.string()); }
 
 private:
     Journal& journal_;

@@ -14,6 +14,8 @@ namespace orken::simulated {
 /// What a server does with a request.
 struct Route {
     std::string body;
+    /// An answer without a body, which this desktop alone can give.
+    bool hasBody = true;
     int statusCode = 200;
     /// There is no answer at all.
     std::optional<PlatformError> error;
@@ -32,7 +34,7 @@ public:
         const Route route = request(url);
         DataTaskResult result{.error = route.error};
         if (!route.error) {
-            result.data = toBytes(route.body);
+            result.data = route.hasBody ? std::optional(toBytes(route.body)) : std::nullopt;
             result.response = UrlResponse{.statusCode = route.statusCode, .mimeType = "text/plain"};
         }
         loop_.later(route.delay, [this, result, completion = std::move(completion)] {

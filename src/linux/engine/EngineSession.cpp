@@ -1,5 +1,7 @@
 #include "linux/engine/EngineSession.h"
 
+#include "linux/engine/MemoryLimits.h"
+
 #include <glib/gstdio.h>
 
 #include <cerrno>
@@ -35,7 +37,7 @@ GObjectPtr<WebKitNetworkSession> makeSession(const EngineSettings& settings)
 } // namespace
 
 EngineSession::EngineSession(const EngineSettings& settings)
-    : session_(makeSession(settings)), hasRenderNode_(settings.hasRenderNode)
+    : context_(makeLimitedContext()), session_(makeSession(settings)), hasRenderNode_(settings.hasRenderNode)
 {
     // The navigation delegate accepts every server's certificate. Asking it each time is not possible here: the engine
     // reports a bad certificate only for the page itself, a failed one for an image or a frame is just dropped, and an
@@ -60,8 +62,9 @@ GObjectPtr<WebKitWebView> EngineSession::makeView() const
     if (!hasRenderNode_) {
         webkit_settings_set_hardware_acceleration_policy(settings.get(), WEBKIT_HARDWARE_ACCELERATION_POLICY_NEVER);
     }
-    return GObjectPtr<WebKitWebView>::share(WEBKIT_WEB_VIEW(
-        g_object_new(WEBKIT_TYPE_WEB_VIEW, "network-session", session_.get(), "settings", settings.get(), nullptr)));
+    return GObjectPtr<WebKitWebView>::share(
+        WEBKIT_WEB_VIEW(g_object_new(WEBKIT_TYPE_WEB_VIEW, "web-context", context_.get(), "network-session",
+                                     session_.get(), "settings", settings.get(), nullptr)));
 }
 
 } // namespace orken::desktop

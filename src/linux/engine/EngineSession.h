@@ -25,6 +25,7 @@ public:
     }
 
 private:
+    GObjectPtr<WebKitWebContext> context_;
     GObjectPtr<WebKitNetworkSession> session_;
     bool hasRenderNode_;
     SignalConnection downloads_;

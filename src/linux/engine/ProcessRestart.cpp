@@ -1,13 +1,11 @@
 #include "linux/engine/ProcessRestart.h"
 
+#include <chrono>
 #include <utility>
 
 namespace orken::desktop {
 
 namespace {
-
-constexpr std::size_t kMostReloads = 3;
-constexpr std::chrono::seconds kPeriod{60};
 
 const char* reasonText(WebKitWebProcessTerminationReason reason)
 {
@@ -35,16 +33,11 @@ ProcessRestart::ProcessRestart(WebKitWebView* view, std::function<void()> reload
 
 void ProcessRestart::terminated(const char* reason)
 {
-    const auto now = std::chrono::steady_clock::now();
-    while (!reloads_.empty() && now - reloads_.front() >= kPeriod) {
-        reloads_.pop_front();
-    }
     const std::string line = std::string("orken: the page's process ") + reason;
-    if (reloads_.size() >= kMostReloads) {
+    if (!limit_.allows(std::chrono::steady_clock::now().time_since_epoch())) {
         report_(line + "; the page is left as it is");
         return;
     }
-    reloads_.push_back(now);
     report_(line + "; the page is loaded again");
     reload_();
 }

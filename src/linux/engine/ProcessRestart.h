@@ -1,18 +1,17 @@
 #pragma once
 
 #include "linux/SignalConnection.h"
+#include "platform/ReloadLimit.h"
 
 #include <webkit/webkit.h>
 
-#include <chrono>
-#include <deque>
 #include <functional>
 #include <string>
 
 namespace orken::desktop {
 
-/// Brings a page back whose process has ended, whatever the reason: at most three times in a minute, after which the
-/// view is left as it is. One line is reported each time. Main thread only.
+/// Brings a page back whose process has ended, whatever the reason, as often as `ReloadLimit` allows; after that
+/// the view is left as it is. One line is reported each time. Main thread only.
 class ProcessRestart {
 public:
     ProcessRestart(WebKitWebView* view, std::function<void()> reload, std::function<void(const std::string&)> report);
@@ -22,7 +21,7 @@ private:
 
     std::function<void()> reload_;
     std::function<void(const std::string&)> report_;
-    std::deque<std::chrono::steady_clock::time_point> reloads_;
+    ReloadLimit limit_;
     SignalConnection processTerminated_;
 };
 

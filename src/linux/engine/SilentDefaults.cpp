@@ -20,6 +20,12 @@ gboolean cancelFileChooser(WebKitWebView*, WebKitFileChooserRequest* request)
     return TRUE;
 }
 
+gboolean cancelColorChooser(WebKitWebView*, WebKitColorChooserRequest* request)
+{
+    webkit_color_chooser_request_cancel(request);
+    return TRUE;
+}
+
 gboolean denyPermission(WebKitWebView*, WebKitPermissionRequest* request)
 {
     webkit_permission_request_deny(request);
@@ -40,6 +46,8 @@ std::vector<SignalConnection> silenceDefaults(WebKitWebView* view)
     handlers.push_back(SignalConnection::make<decltype(endScriptDialog)>(view, "script-dialog", endScriptDialog));
     handlers.push_back(
         SignalConnection::make<decltype(cancelFileChooser)>(view, "run-file-chooser", cancelFileChooser));
+    handlers.push_back(
+        SignalConnection::make<decltype(cancelColorChooser)>(view, "run-color-chooser", cancelColorChooser));
     handlers.push_back(SignalConnection::make<decltype(denyPermission)>(view, "permission-request", denyPermission));
     handlers.push_back(
         SignalConnection::make<decltype(denyPermissionState)>(view, "query-permission-state", denyPermissionState));

@@ -1,6 +1,9 @@
 #include "linux/engine/WebKitBrowserView.h"
 
 #include "foundation/Url.h"
+#include "linux/engine/AsyncReply.h"
+#include "linux/engine/ScriptCalls.h"
+#include "linux/engine/ScriptWorld.h"
 #include "linux/engine/SilentDefaults.h"
 
 #include <utility>
@@ -31,6 +34,7 @@ WebKitBrowserView::WebKitBrowserView(std::unique_ptr<SpareView> spare, Report re
 
 void WebKitBrowserView::stop()
 {
+    isStopped_ = true;
     delegate_.reset();
     restart_.reset();
 }
@@ -147,6 +151,37 @@ std::optional<std::string> WebKitBrowserView::url() const
     // Before its first page, also after a failure, the view is empty, whatever a spare view has in it.
     const bool isOfSpare = !loads_->hasCommitted() && address == kBlankAddress && request_->url != kBlankAddress;
     return isOfSpare ? std::nullopt : address;
+}
+
+void WebKitBrowserView::evaluateJavaScript(const std::string& script, ScriptCompletion completion)
+{
+    constexpr const char* kPageWorld = nullptr;
+    webkit_web_view_evaluate_javascript(view_.get(), script.data(), static_cast<gssize>(script.size()), kPageWorld,
+                                        nullptr, nullptr, AsyncReply::call,
+                                        scriptReply(webkit_web_view_evaluate_javascript_finish, std::move(completion)));
+}
+
+void WebKitBrowserView::callAsyncJavaScript(const std::string& functionBody, ScriptCompletion completion)
+{
+    webkit_web_view_call_async_javascript_function(
+        view_.get(), functionBody.data(), static_cast<gssize>(functionBody.size()), nullptr, kScriptWorld, nullptr,
+        nullptr, AsyncReply::call,
+        scriptReply(webkit_web_view_call_async_javascript_function_finish, std::move(completion)));
+}
+
+gpointer WebKitBrowserView::scriptReply(FinishScript finish, ScriptCompletion completion)
+{
+    auto ended = [weak = std::weak_ptr(shared_from_this()), this, view = view_.get(), finish,
+                  completion = std::move(completion)](GAsyncResult* result) {
+        // The engine keeps its widget alive until it has called back.
+        GError* error = nullptr;
+        JSCValue* value = finish(view, result, &error);
+        auto handedOver = takeScriptResult(value, error);
+        if (const auto alive = weak.lock(); alive && !isStopped_) {
+            completion(std::move(handedOver));
+        }
+    };
+    return AsyncReply::of(std::move(ended));
 }
 
 } // namespace orken::desktop

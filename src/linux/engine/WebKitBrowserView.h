@@ -25,9 +25,7 @@ namespace orken::desktop {
 /// A page that has finished is reported when its title is known, a moment later; the address is the one that it had
 /// when it finished. Each finished page is reported once and in order: when the next load starts before the title is
 /// known, the report is made right then with the title that the engine has. Nothing is reported once the view has gone.
-class WebKitBrowserView final : public BrowserView,
-                                public WidgetView,
-                                public std::enable_shared_from_this<WebKitBrowserView> {
+class WebKitBrowserView final : public BrowserView, public WidgetView {
 public:
     using Report = std::function<void(const std::string& line)>;
 
@@ -42,7 +40,7 @@ public:
 
     void becameEnabled() override { gtk_widget_grab_focus(widget()); }
 
-    /// The delegate is called no more, and a page whose process ends is not loaded again.
+    /// The delegate is called no more, no script's completion comes, and a page whose process ends is not loaded again.
     void stop();
 
     void setNavigationDelegate(std::weak_ptr<NavigationDelegate> delegate) override;
@@ -52,13 +50,18 @@ public:
 
     [[nodiscard]] std::optional<std::string> title() const override;
     [[nodiscard]] std::optional<std::string> url() const override;
+    void evaluateJavaScript(const std::string& script, ScriptCompletion completion) override;
+    void callAsyncJavaScript(const std::string& functionBody, ScriptCompletion completion) override;
 
 private:
+    using FinishScript = JSCValue* (*)(WebKitWebView*, GAsyncResult*, GError**);
+
     struct FinishedPage {
         std::optional<std::string> title;
         std::optional<std::string> url;
     };
 
+    [[nodiscard]] gpointer scriptReply(FinishScript finish, ScriptCompletion completion);
     void beginRequest();
     void connect();
     void loadAgain();
@@ -76,6 +79,8 @@ private:
     /// The page that is being reported right now.
     std::optional<FinishedPage> finished_;
     std::unique_ptr<PageTitle> pageTitle_;
+
+    bool isStopped_ = false;
 
     // Made with the first load: nothing of a spare view's blank page gets here.
     std::unique_ptr<PageLoads> loads_;

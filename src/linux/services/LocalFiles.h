@@ -8,9 +8,11 @@ namespace orken::desktop {
 class LocalFiles final : public Files {
 public:
     [[nodiscard]] std::vector<std::filesystem::path> cachesDirectories() const override;
+    [[nodiscard]] Outcome<std::filesystem::path> downloadsDirectory() override;
     [[nodiscard]] Outcome<std::vector<std::string>>
     contentsOfDirectory(const std::filesystem::path& directory) const override;
     [[nodiscard]] Outcome<void> removeItem(const std::filesystem::path& item) override;
+    [[nodiscard]] Outcome<void> writeFile(const std::filesystem::path& file, const Bytes& content) override;
 };
 
 } // namespace orken::desktop

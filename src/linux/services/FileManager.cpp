@@ -1,0 +1,76 @@
+#include "linux/services/FileManager.h"
+
+#include "linux/GObjectPtr.h"
+#include "linux/services/StandardConsole.h"
+
+#include <gio/gio.h>
+
+#include <array>
+#include <memory>
+#include <string>
+
+namespace orken::desktop {
+
+namespace {
+
+using Path = std::filesystem::path;
+
+// Starting a file manager takes a while on a busy machine; the call waits for it without holding anything up.
+constexpr int kPatienceMilliseconds = 30000;
+
+GText uriOf(const Path& path)
+{
+    return GText(g_filename_to_uri(path.c_str(), nullptr, nullptr));
+}
+
+void reportNotShown(const Path& file, const GError* error)
+{
+    reportDiagnostic("orken: no file manager could be opened for " + file.string() +
+                     (error ? std::string(": ") + error->message : std::string()));
+}
+
+void openFolder(const Path& file)
+{
+    const GText folder = uriOf(file.parent_path());
+    GError* error = nullptr;
+    if (!folder || !g_app_info_launch_default_for_uri(folder.get(), nullptr, &error)) {
+        const GErrorPtr owned(error);
+        reportNotShown(file, error);
+    }
+}
+
+void answered(GObject* bus, GAsyncResult* result, gpointer data)
+{
+    const std::unique_ptr<Path> file(static_cast<Path*>(data));
+    if (GVariant* reply = g_dbus_connection_call_finish(G_DBUS_CONNECTION(bus), result, nullptr)) {
+        g_variant_unref(reply);
+    } else {
+        openFolder(*file);
+    }
+}
+
+void connected(GObject*, GAsyncResult* result, gpointer data)
+{
+    std::unique_ptr<Path> file(static_cast<Path*>(data));
+    const auto bus = GObjectPtr<GDBusConnection>::adopt(g_bus_get_finish(result, nullptr));
+    const GText uri = uriOf(*file);
+    if (!bus || !uri) {
+        openFolder(*file);
+        return;
+    }
+    const std::array<const char*, 2> uris{uri.get(), nullptr};
+    constexpr const char* kNoStartupId = "";
+    g_dbus_connection_call(bus.get(), "org.freedesktop.FileManager1", "/org/freedesktop/FileManager1",
+                           "org.freedesktop.FileManager1", "ShowItems",
+                           g_variant_new("(^ass)", uris.data(), kNoStartupId), nullptr, G_DBUS_CALL_FLAGS_NONE,
+                           kPatienceMilliseconds, nullptr, answered, file.release());
+}
+
+} // namespace
+
+void FileManager::activateFileViewer(const Path& file)
+{
+    g_bus_get(G_BUS_TYPE_SESSION, nullptr, connected, std::make_unique<Path>(file).release());
+}
+
+} // namespace orken::desktop

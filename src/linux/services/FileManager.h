@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/Workspace.h"
+
+namespace orken::desktop {
+
+/// The desktop's file manager over D-Bus (org.freedesktop.FileManager1); where none answers, the desktop's usual
+/// program for folders. One line on standard error names the file when there is neither. Main thread only.
+class FileManager final : public Workspace {
+public:
+    void activateFileViewer(const std::filesystem::path& file) override;
+};
+
+} // namespace orken::desktop
