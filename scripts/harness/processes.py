@@ -33,6 +33,19 @@ def process_tree(pid):
     return tree
 
 
+def named(pids, name):
+    """Those of the processes whose program has this name; the kernel keeps the first 15 bytes of it."""
+
+    def name_of(pid):
+        try:
+            with open(f"/proc/{pid}/comm", "rb") as file:
+                return file.read().rstrip(b"\n")
+        except (FileNotFoundError, ProcessLookupError):
+            return b""
+
+    return [pid for pid in pids if name_of(pid) == name.encode()[:15]]
+
+
 def cpu_seconds(pids):
     """User and system time, with that of children which ended and were waited for."""
     return _TICK * sum(sum(map(int, fields[11:15])) for fields in map(_stat, pids) if fields)

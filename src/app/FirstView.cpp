@@ -1,10 +1,7 @@
 #include "app/FirstView.h"
 
 #include "app/HostingWindow.h"
-#include "app/OtherApplications.h"
 #include "app/QuitApplication.h"
-#include "app/SavedState.h"
-#include "app/Uninstall.h"
 
 namespace orken {
 
@@ -32,7 +29,9 @@ Element FirstView::body()
             .onAppear([this] { ports_.versionGate.checkAppVersion(appVersionMessage_, showUpdateAlert_); })
             .alert(showUpdateAlert_, ports_.versionGate.updateAlert(appVersionMessage_.get(), downloadURL_)),
         Text(versionLine()).font(Font::headline),
-        Button("Uygulamayı Sil", [] { confirmUninstall(); }).padding(Edge::top, 20).foreground(Color::destructive()),
+        Button("Uygulamayı Sil", [this] { ports_.uninstall.confirmUninstall(); })
+            .padding(Edge::top, 20)
+            .foreground(Color::destructive()),
     });
 }
 
@@ -46,9 +45,9 @@ void FirstView::openApplication()
     if (const auto window = ports_.windows.key()) {
         window->close();
     }
-    removeSavedStateDirectory();
-    updateRestoreCount();
-    closeOtherApplications();
+    ports_.savedState.removeSavedStateDirectory();
+    ports_.savedState.updateRestoreCount();
+    ports_.otherApplications.closeOtherApplications();
     // A refusal has asked for termination, and that request returns here.
     if (ports_.application.isTerminating()) {
         return;

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "app/OtherApplications.h"
+#include "app/SavedState.h"
+#include "app/Uninstall.h"
 #include "app/VersionGate.h"
 #include "platform/Application.h"
 #include "platform/Windows.h"
@@ -18,6 +21,9 @@ public:
         Application& application;
         Windows& windows;
         const VersionGate& versionGate;
+        SavedState& savedState;
+        OtherApplications& otherApplications;
+        Uninstall& uninstall;
         std::function<std::unique_ptr<View>()> makeContentView;
     };
 

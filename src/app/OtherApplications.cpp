@@ -1,10 +1,90 @@
 #include "app/OtherApplications.h"
 
+#include <algorithm>
+#include <array>
+#include <string_view>
+
 namespace orken {
 
-void closeOtherApplications()
+namespace {
+
+constexpr std::size_t kMostNames = 5;
+
+constexpr std::array<std::string_view, 3> kNeverOffered{"com.apple.finder", "com.apple.dock", "com.apple.Spotlight"};
+
+constexpr std::array<std::string_view, 7> kNeverAsked{"com.apple.finder",         "com.apple.dock",
+                                                      "com.apple.systemuiserver", "com.apple.WindowServer",
+                                                      "com.apple.loginwindow",    "com.apple.wallpaper.agent",
+                                                      "com.apple.Spotlight"};
+
+template <class Identifiers>
+bool contains(const Identifiers& identifiers, const std::string& identifier)
 {
-    // The desktops do not list running applications yet: there is nothing to close.
+    return std::find(identifiers.begin(), identifiers.end(), identifier) != identifiers.end();
+}
+
+std::string listText(const std::vector<RunningApplication>& applications)
+{
+    std::string text;
+    std::size_t count = 0;
+    for (const RunningApplication& application : applications) {
+        if (!application.localizedName) {
+            continue;
+        }
+        if (count == kMostNames) {
+            return text + "\n...";
+        }
+        text += (count++ == 0 ? "" : "\n") + *application.localizedName;
+    }
+    return text;
+}
+
+} // namespace
+
+bool OtherApplications::isClosable(const RunningApplication& application) const
+{
+    const auto& identifier = application.bundleIdentifier;
+    const bool isOffered =
+        !identifier || (!contains(kNeverOffered, *identifier) && *identifier != kAppBundleIdentifier_);
+    return isOffered && !ports_.runningApplications.isCurrent(application);
+}
+
+bool OtherApplications::isKept(const RunningApplication& application) const
+{
+    const auto& identifier = application.bundleIdentifier;
+    const bool isSystems = identifier && (contains(kNeverAsked, *identifier) || *identifier == kAppBundleIdentifier_);
+    return isSystems || ports_.runningApplications.isCurrent(application);
+}
+
+void OtherApplications::closeOtherApplications()
+{
+    auto candidates = ports_.runningApplications.all();
+    std::erase_if(candidates, [this](const RunningApplication& candidate) { return !isClosable(candidate); });
+    if (candidates.empty()) {
+        ports_.console.printLine("Kapatılacak uygulama yok.");
+        return;
+    }
+    const int answer = ports_.alerts.runModal(
+        {.messageText = "Devam edebilmek için aşağıdaki açık uygulamalar kapatılacak, onaylıyor musunuz?",
+         .informativeText = "Açık olan uygulamalar:\n" + listText(candidates),
+         .style = AlertStyle::warning,
+         .buttons = {"Evet", "Hayır"}});
+    if (answer != kAlertFirstButtonReturn) {
+        ports_.application.terminate();
+        return;
+    }
+    for (const RunningApplication& candidate : candidates) {
+        (void)ports_.runningApplications.terminate(candidate);
+    }
+}
+
+void OtherApplications::terminateOtherApplications()
+{
+    for (const RunningApplication& application : ports_.runningApplications.all()) {
+        if (!isKept(application)) {
+            (void)ports_.runningApplications.terminate(application);
+        }
+    }
 }
 
 } // namespace orken

@@ -1,8 +1,43 @@
 #pragma once
 
+#include "platform/Alerts.h"
+#include "platform/Application.h"
+#include "platform/Console.h"
+#include "platform/RunningApplications.h"
+
+#include <string>
+
 namespace orken {
 
-/// Asks the user to agree that every other running application is closed; a refusal ends this one. Main thread only.
-void closeOtherApplications();
+/// Keeps the user's other applications closed while the session runs: they are asked to quit, never made to. Main
+/// thread only.
+class OtherApplications {
+public:
+    struct Ports {
+        RunningApplications& runningApplications;
+        Alerts& alerts;
+        Application& application;
+        Console& console;
+    };
+
+    OtherApplications(const Ports& ports, std::string kAppBundleIdentifier)
+        : ports_(ports), kAppBundleIdentifier_(std::move(kAppBundleIdentifier))
+    {
+    }
+
+    [[nodiscard]] bool isClosable(const RunningApplication& application) const;
+
+    /// Names them and asks for the user's agreement; anything else ends the client. Without any, nothing is shown.
+    void closeOtherApplications();
+
+    /// Asks all of them but the system's own components, without a word.
+    void terminateOtherApplications();
+
+private:
+    [[nodiscard]] bool isKept(const RunningApplication& application) const;
+
+    Ports ports_;
+    std::string kAppBundleIdentifier_;
+};
 
 } // namespace orken

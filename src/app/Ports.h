@@ -10,8 +10,10 @@
 #include "platform/CookieStorage.h"
 #include "platform/Files.h"
 #include "platform/HardwareRegistry.h"
+#include "platform/KeyMonitors.h"
 #include "platform/MainQueue.h"
 #include "platform/NotificationCenter.h"
+#include "platform/RunningApplications.h"
 #include "platform/UrlSession.h"
 #include "platform/WebsiteDataStore.h"
 #include "platform/Windows.h"
@@ -24,11 +26,13 @@ struct Ports {
     Application& application;
     Windows& windows;
     NotificationCenter& notifications;
+    KeyMonitors& keyMonitors;
     MainQueue& mainQueue;
     Console& console;
     const Clock& clock;
     Alerts& alerts;
     Workspace& workspace;
+    RunningApplications& runningApplications;
     BundleInfo& bundle;
     Files& files;
     CookieStorage& cookies;
@@ -46,11 +50,13 @@ template <class Desktop>
     return {.application = desktop.application,
             .windows = desktop.windows,
             .notifications = desktop.notifications,
+            .keyMonitors = desktop.keyMonitors,
             .mainQueue = desktop.mainQueue,
             .console = desktop.console,
             .clock = desktop.clock,
             .alerts = desktop.alerts,
             .workspace = desktop.workspace,
+            .runningApplications = desktop.runningApplications,
             .bundle = desktop.bundle,
             .files = desktop.files,
             .cookies = desktop.urlSession,

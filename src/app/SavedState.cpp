@@ -1,15 +1,115 @@
 #include "app/SavedState.h"
 
+#include "foundation/PropertyList.h"
+
+#include <limits>
+
 namespace orken {
 
-void removeSavedStateDirectory()
+namespace {
+
+constexpr const char* kRestoreCountKey = "restoreCount";
+/// The file is some 200 bytes long. What is this large is not the client's, and is not taken into memory.
+constexpr std::size_t kLargestFile = 1 << 20;
+
+} // namespace
+
+void SavedState::removeSavedStateDirectory()
 {
-    // This desktop's client writes no saved state yet.
+    const auto folder = directory();
+    if (!files_.fileExists(folder)) {
+        console_.printLine("Saved state dizini mevcut değil.");
+        return;
+    }
+    if (const auto removed = files_.removeItem(folder); !removed) {
+        console_.printLine("Saved state dizini silinirken bir hata oluştu: " + removed.error().localisedDescription());
+        return;
+    }
+    console_.printLine("Saved state dizini başarıyla silindi.");
 }
 
-void updateRestoreCount()
+void SavedState::updateRestoreCount()
 {
-    // The counter's file comes with the property lists.
+    const auto file = directory() / "restorecount.plist";
+    if (!files_.fileExists(file)) {
+        console_.printLine("Dosya mevcut değil, varsayılan değerler kullanılacak.");
+        createDefaultRestoreCountFile(file);
+        return;
+    }
+    const auto printReadError = [this](const PlatformError& error) {
+        console_.printLine("Dosya okunurken bir hata oluştu: " + error.localisedDescription());
+    };
+    const auto bytes = files_.readFile(file, kLargestFile);
+    if (!bytes) {
+        printReadError(bytes.error());
+        return;
+    }
+    const auto list = readPropertyList(bytes.value());
+    if (!list) {
+        printReadError(list.error());
+        return;
+    }
+    if (!list.value()) {
+        return;
+    }
+    const auto count = list.value()->find(kRestoreCountKey);
+    if (count == list.value()->end() || !count->second) {
+        console_.printLine("restoreCount anahtarı bulunamadı, varsayılan değer kullanılacak.");
+        createDefaultRestoreCountFile(file);
+        return;
+    }
+    console_.printLine("Restore Count değeri: " + std::to_string(*count->second));
+    incrementRestoreCount(*count->second, file);
+}
+
+std::filesystem::path SavedState::directory() const
+{
+    return files_.homeDirectory() / "Library/Saved Application State" / (kAppBundleIdentifier_ + ".savedState");
+}
+
+void SavedState::createDefaultRestoreCountFile(const std::filesystem::path& file)
+{
+    if (const auto created = tryCreateDefaultFile(file); !created) {
+        console_.printLine("Varsayılan dosya oluşturulurken bir hata oluştu: " +
+                           created.error().localisedDescription());
+        return;
+    }
+    console_.printLine("Varsayılan restorecount.plist dosyası oluşturuldu.");
+}
+
+Outcome<void> SavedState::tryCreateDefaultFile(const std::filesystem::path& file)
+{
+    const auto folder = file.parent_path();
+    if (!files_.fileExists(folder)) {
+        if (auto created = files_.createDirectory(folder); !created) {
+            return created;
+        }
+        console_.printLine("Dizin oluşturuldu: " + folder.string());
+    }
+    return write(0, file);
+}
+
+void SavedState::incrementRestoreCount(std::int64_t current, const std::filesystem::path& file)
+{
+    // The greatest value stays: a counter must not keep anybody from a session.
+    const std::int64_t next = current == std::numeric_limits<std::int64_t>::max() ? current : current + 1;
+    console_.printLine("Yeni Restore Count değeri: " + std::to_string(next));
+    writeRestoreCount(next, file);
+}
+
+void SavedState::writeRestoreCount(std::int64_t value, const std::filesystem::path& file)
+{
+    if (const auto written = write(value, file); !written) {
+        console_.printLine("Dosya kaydedilirken bir hata oluştu: " + written.error().localisedDescription());
+        return;
+    }
+    console_.printLine("restorecount.plist dosyası güncellendi.");
+}
+
+Outcome<void> SavedState::write(std::int64_t value, const std::filesystem::path& file)
+{
+    const auto bytes = writePropertyList(kRestoreCountKey, value);
+    return bytes ? files_.writeFile(file, bytes.value()) : bytes.error();
 }
 
 } // namespace orken

@@ -2,9 +2,28 @@
 
 namespace orken {
 
-void confirmUninstall()
+void Uninstall::confirmUninstall()
 {
-    // There is no installed bundle to remove yet.
+    const int answer = alerts_.runModal({.messageText = "Uygulamayı silmek istediğinizden emin misiniz?",
+                                         .informativeText = "Bu işlem geri alınamaz",
+                                         .buttons = {"Evet", "Hayır"}});
+    if (answer == kAlertFirstButtonReturn) {
+        removeInstalledApplication();
+        application_.terminate();
+    }
+}
+
+void Uninstall::removeInstalledApplication()
+{
+    if (!files_.fileExists(kInstalledBundlePath)) {
+        console_.printLine("Uygulama bulunamadı.");
+        return;
+    }
+    if (const auto removed = files_.removeItem(kInstalledBundlePath); !removed) {
+        console_.printLine("Uygulama silinirken hata oluştu: " + removed.error().description());
+        return;
+    }
+    console_.printLine("Uygulama başarıyla silindi.");
 }
 
 } // namespace orken

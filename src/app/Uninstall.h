@@ -1,8 +1,34 @@
 #pragma once
 
+#include "platform/Alerts.h"
+#include "platform/Application.h"
+#include "platform/Console.h"
+#include "platform/Files.h"
+
 namespace orken {
 
-/// Removes the installed bundle after the user's confirmation and ends the application. Main thread only.
-void confirmUninstall();
+/// Where the client is installed. A copy that runs from anywhere else removes the one at this place, never itself.
+inline constexpr const char* kInstalledBundlePath = "/Applications/Orken.app";
+
+/// Removal of the installed client. Main thread only.
+class Uninstall {
+public:
+    Uninstall(Files& files, Alerts& alerts, Application& application, Console& console)
+        : files_(files), alerts_(alerts), application_(application), console_(console)
+    {
+    }
+
+    /// Asks first. After an agreement the application ends, whether or not there was something to remove.
+    void confirmUninstall();
+
+    /// Removes the bundle and prints the outcome.
+    void removeInstalledApplication();
+
+private:
+    Files& files_;
+    Alerts& alerts_;
+    Application& application_;
+    Console& console_;
+};
 
 } // namespace orken

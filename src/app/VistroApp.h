@@ -1,7 +1,10 @@
 #pragma once
 
 #include "app/AppDelegate.h"
+#include "app/OtherApplications.h"
 #include "app/Ports.h"
+#include "app/SavedState.h"
+#include "app/Uninstall.h"
 #include "app/VersionGate.h"
 #include "browser/LoginParameter.h"
 #include "browser/PdfDownload.h"
@@ -34,6 +37,9 @@ private:
     Endpoints endpoints_;
     AppDelegate appDelegate_;
     DeviceIdentity identity_;
+    SavedState savedState_;
+    OtherApplications otherApplications_;
+    Uninstall uninstall_;
     VersionGate versionGate_;
     WindowControl windowControl_;
     LoginParameter loginParameter_;

@@ -2,6 +2,7 @@
 
 #include <csignal>
 #include <filesystem>
+#include <gdk/x11/gdkx.h>
 #include <glib.h>
 #include <string>
 
@@ -41,10 +42,19 @@ void prepareProcess(bool renderNode)
     }
 }
 
+/// Absent on Wayland, also where programs of X11 can be shown beside others: nothing tells there which process a window
+/// belongs to.
+std::optional<std::string> displayName()
+{
+    GdkDisplay* display = gdk_display_get_default();
+    return GDK_IS_X11_DISPLAY(display) ? std::optional<std::string>(gdk_display_get_name(display)) : std::nullopt;
+}
+
 } // namespace
 
 Desktop::Desktop(const DesktopSettings& settings)
-    : renderNode_(hasRenderNode()), bundle(settings.version), urlSession(settings.certificateAuthorityFile),
+    : renderNode_(hasRenderNode()), bundle(settings.version),
+      runningApplications(settings.bundleIdentifier, displayName), urlSession(settings.certificateAuthorityFile),
       contentsReader(settings.certificateAuthorityFile),
       engine({.bundleIdentifier = settings.bundleIdentifier,
               .hasRenderNode = renderNode_,
@@ -57,6 +67,7 @@ Desktop::Desktop(const DesktopSettings& settings)
                            mainQueue.stop();
                            timers.stop();
                            alerts.stop();
+                           keyMonitors.stop();
                            engine.stop();
                            urlSession.stop();
                        },

@@ -7,7 +7,7 @@
 #include "linux/gtk/DesktopWindows.h"
 #include "linux/services/BlockingReader.h"
 #include "linux/services/BuiltBundleInfo.h"
-#include "linux/services/FileManager.h"
+#include "linux/services/DesktopWorkspace.h"
 #include "linux/services/HttpSession.h"
 #include "linux/services/LocalFiles.h"
 #include "linux/services/LoopTimers.h"
@@ -15,7 +15,9 @@
 #include "linux/services/MainLoopQueue.h"
 #include "linux/services/StandardConsole.h"
 #include "linux/services/SystemClock.h"
+#include "linux/x11/X11Applications.h"
 #include "platform/AlertStack.h"
+#include "platform/KeyMonitors.h"
 #include "platform/NotificationCenter.h"
 
 #include <optional>
@@ -49,18 +51,20 @@ private:
 
 public:
     NotificationCenter notifications;
+    KeyMonitors keyMonitors;
     MainLoopQueue mainQueue;
     LoopTimers timers{alertStack_};
     StandardConsole console;
     SystemClock clock;
     BuiltBundleInfo bundle;
     LocalFiles files;
-    FileManager workspace;
+    DesktopWorkspace workspace;
+    X11Applications runningApplications;
     MachineHardware hardware;
     HttpSession urlSession;
     BlockingReader contentsReader;
     LateEngine engine;
-    DesktopWindows windows{notifications, alertGate_};
+    DesktopWindows windows{notifications, alertGate_, keyMonitors};
     DesktopScreens screens;
     DesktopAlerts alerts{alertStack_, windows, alertGate_};
     DesktopApplication application;

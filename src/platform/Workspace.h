@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 namespace orken {
 
@@ -11,6 +12,11 @@ public:
     Workspace(const Workspace&) = delete;
     Workspace& operator=(const Workspace&) = delete;
     virtual ~Workspace() = default;
+
+    /// Hands an address to the program that the user has chosen for it, the browser for https. It has been handed over
+    /// when this returns, so the application may end at once. False, with nothing else done, when there is no such
+    /// program.
+    virtual bool open(const std::string& url) = 0;
 
     /// Asks the file manager to show the folder of this file, an absolute path, with the file selected. Returns at
     /// once; nothing is reported back, and where there is no file manager nothing is shown.

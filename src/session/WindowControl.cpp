@@ -41,7 +41,13 @@ void WindowControl::observeFullScreenChanges(const State<bool>& isFullScreen)
 
 void WindowControl::installKeyMonitor()
 {
-    // The desktops offer no key monitor yet, so there is nothing to install.
+    keyMonitors_.add([this](const KeyEvent& event) {
+        if (event.keyCode != kEscapeKeyCode) {
+            return KeyHandling::passOn;
+        }
+        closeOtherWindows();
+        return KeyHandling::swallow;
+    });
 }
 
 } // namespace orken

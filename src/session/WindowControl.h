@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Console.h"
+#include "platform/KeyMonitors.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Windows.h"
 #include "view/State.h"
@@ -11,8 +12,8 @@ namespace orken {
 /// at the moment of the call. Main thread only.
 class WindowControl {
 public:
-    WindowControl(Windows& windows, NotificationCenter& notifications, Console& console)
-        : windows_(windows), notifications_(notifications), console_(console)
+    WindowControl(Windows& windows, NotificationCenter& notifications, KeyMonitors& keyMonitors, Console& console)
+        : windows_(windows), notifications_(notifications), keyMonitors_(keyMonitors), console_(console)
     {
     }
 
@@ -28,12 +29,14 @@ public:
     /// From here to the end of the process the cell follows every window's changes. Each call adds two observers.
     void observeFullScreenChanges(const State<bool>& isFullScreen);
 
-    /// Takes the Escape key away from every window.
+    /// From here to the end of the process the Escape key closes the other windows and reaches no window itself. Each
+    /// call adds a monitor. This outlives them all.
     void installKeyMonitor();
 
 private:
     Windows& windows_;
     NotificationCenter& notifications_;
+    KeyMonitors& keyMonitors_;
     Console& console_;
 };
 

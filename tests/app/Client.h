@@ -14,8 +14,11 @@ public:
     static constexpr const char* kLoginURL = "https://login.example//accounts/login?param=C02ABC123XYZ&xppKey="
                                              "5b2e7a41-93cd-4f08-a6e2-1c7d90b3f584";
 
+    static constexpr const char* kSettings = "https://content.example/settings/xpp.json";
+
     Client()
     {
+        desktop.network.routes[kSettings] = {.body = R"({"macVersion": "2.1"})"};
         desktop.network.routes["https://ip.example/"] = {.body = "203.0.113.7\n", .delay = Seconds{0.2}};
         desktop.browserViews.site = {{kLoginURL, {.title = "Login", .loadTime = Seconds{3}}}};
         desktop.files.addFile("/home/student/.cache/com.orken.test/old");
@@ -24,15 +27,25 @@ public:
 
     void launch() { EXPECT_EQ(app.main(), 0); }
 
+    /// The start window with the gate's answer.
+    void start()
+    {
+        launch();
+        desktop.loop.run();
+        desktop.loop.runBackground();
+        desktop.loop.run();
+    }
+
     [[nodiscard]] std::shared_ptr<simulated::SimulatedWindow> window(const std::string& title) const
     {
         return desktop.windows.find(title);
     }
 
     simulated::SimulatedDesktop desktop;
-    VistroApp app{{desktop.application, desktop.windows, desktop.notifications, desktop.loop, desktop.console,
-                   desktop.clock, desktop.alerts, desktop.workspace, desktop.bundle, desktop.files, desktop.cookies,
-                   desktop.websiteData, desktop.network, desktop.network, desktop.hardware, desktop.browserViews},
+    VistroApp app{{desktop.application, desktop.windows, desktop.notifications, desktop.keyMonitors, desktop.loop,
+                   desktop.console, desktop.clock, desktop.alerts, desktop.workspace, desktop.runningApplications,
+                   desktop.bundle, desktop.files, desktop.cookies, desktop.websiteData, desktop.network,
+                   desktop.network, desktop.hardware, desktop.browserViews},
                   {.bundleIdentifier = "com.orken.test",
                    .version = "2.1",
                    .contentHost = "content.example",

@@ -47,7 +47,7 @@ struct Bed {
     // The session window is the last one here, so that its toggles can be seen.
     simulated::SimulatedDesktop desktop{{.permanentPanel = false}};
     DeviceIdentity identity{desktop.hardware, desktop.network, kEcho};
-    WindowControl control{desktop.windows, desktop.notifications, desktop.console};
+    WindowControl control{desktop.windows, desktop.notifications, desktop.keyMonitors, desktop.console};
     std::shared_ptr<Window> window = desktop.windows.makeWindow({.width = 640, .height = 480}, 15);
 };
 

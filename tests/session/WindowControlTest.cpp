@@ -25,7 +25,7 @@ struct Bed {
     }
 
     simulated::SimulatedDesktop desktop{{.permanentPanel = false}};
-    WindowControl control{desktop.windows, desktop.notifications, desktop.console};
+    WindowControl control{desktop.windows, desktop.notifications, desktop.keyMonitors, desktop.console};
     State<bool> isFullScreen{{}, false};
 };
 
@@ -103,6 +103,20 @@ TEST(WindowControl, theFlagFollowsEveryWindowForAsLongAsItExists)
     flag.reset();
     bed.desktop.loop.advance(Seconds{1});
     other->toggleFullScreen();
+}
+
+TEST(WindowControl, escapeClosesTheOthersAndReachesNoWindow)
+{
+    Bed bed;
+    bed.window("A");
+    bed.window("B");
+    EXPECT_EQ(bed.desktop.keyMonitors.handle({.keyCode = kEscapeKeyCode}), KeyHandling::passOn) << "nobody watches yet";
+    bed.control.installKeyMonitor();
+    bed.control.installKeyMonitor();
+    EXPECT_EQ(bed.desktop.keyMonitors.handle({.keyCode = kOtherKeyCode}), KeyHandling::passOn);
+    EXPECT_THAT(bed.desktop.journal.take(), IsEmpty());
+    EXPECT_EQ(bed.desktop.keyMonitors.handle({.keyCode = kEscapeKeyCode}), KeyHandling::swallow);
+    EXPECT_THAT(bed.desktop.journal.take(), ElementsAre("close B"));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/KeyMonitors.h"
 #include "simulated/SimulatedAlerts.h"
 #include "simulated/SimulatedBrowser.h"
 #include "simulated/SimulatedFiles.h"
@@ -24,12 +25,14 @@ public:
     Journal journal;
     MainLoop loop;
     NotificationCenter notifications;
+    KeyMonitors keyMonitors;
     SimulatedWindows windows;
     SimulatedApplication application{loop, windows, journal};
     SimulatedAlerts alerts{loop, windows, application, journal};
     SimulatedConsole console{journal};
     SimulatedClock clock;
     SimulatedWorkspace workspace{journal};
+    SimulatedApplications runningApplications{journal};
     SimulatedHardware hardware;
     SimulatedBundle bundle;
     SimulatedCookies cookies{journal};

@@ -20,6 +20,10 @@ public:
 
     explicit SimulatedFiles(Journal& journal) : journal_(journal) {}
 
+    [[nodiscard]] Path homeDirectory() const override { return "/home/student"; }
+
+    [[nodiscard]] bool fileExists(const Path& item) const override { return exists(item); }
+
     [[nodiscard]] std::vector<Path> cachesDirectories() const override { return caches; }
 
     [[nodiscard]] Outcome<Path> downloadsDirectory() override
@@ -60,6 +64,32 @@ public:
         return {};
     }
 
+    [[nodiscard]] Outcome<void> createDirectory(const Path& directory) override
+    {
+        const Path above = directory.parent_path();
+        if (directory.has_relative_path() && !exists(directory)) {
+            if (const int code = codeOfWriting(directory)) {
+                return failure(directory, code);
+            }
+            if (auto created = createDirectory(above); !created) {
+                return created;
+            }
+            addFile(directory);
+            journal_.add("make folder " + directory.string());
+        }
+        folders_.insert(directory);
+        return {};
+    }
+
+    [[nodiscard]] Outcome<Bytes> readFile(const Path& file, std::size_t limit) const override
+    {
+        const auto content = contents.find(file);
+        if (!exists(file) || content == contents.end()) {
+            return failure(file, !exists(file) ? ENOENT : folders_.contains(file) ? EISDIR : EIO);
+        }
+        return content->second.size() > limit ? Outcome<Bytes>(failure(file, EFBIG)) : content->second;
+    }
+
     [[nodiscard]] Outcome<void> writeFile(const Path& file, const Bytes& content) override
     {
         if (const int code = codeOfWriting(file)) {
@@ -74,6 +104,12 @@ public:
     }
 
     /// The folders above are made where they are missing.
+    void addFile(const Path& file, const std::string& content)
+    {
+        addFile(file);
+        contents[file] = toBytes(content);
+    }
+
     void addFile(const Path& file)
     {
         const Path folder = file.parent_path();

@@ -5,6 +5,7 @@
 #include "platform/Console.h"
 #include "platform/CookieStorage.h"
 #include "platform/HardwareRegistry.h"
+#include "platform/RunningApplications.h"
 #include "platform/Workspace.h"
 #include "simulated/Journal.h"
 
@@ -37,7 +38,45 @@ class SimulatedWorkspace final : public Workspace {
 public:
     explicit SimulatedWorkspace(Journal& journal) : journal_(journal) {}
 
+    bool open(const std::string& url) override
+    {
+        journal_.add("open " + url);
+        return true;
+    }
+
     void activateFileViewer(const std::filesystem::path& file) override { journal_.add("reveal " + file.string()); }
+
+private:
+    Journal& journal_;
+};
+
+class SimulatedApplications final : public RunningApplications {
+public:
+    static constexpr int kOwnProcess = 1;
+
+    explicit SimulatedApplications(Journal& journal) : journal_(journal) {}
+
+    [[nodiscard]] std::vector<RunningApplication> all() override { return running; }
+
+    [[nodiscard]] bool isCurrent(const RunningApplication& application) const override
+    {
+        return application.processIdentifier == kOwnProcess;
+    }
+
+    bool terminate(const RunningApplication& application) override
+    {
+        journal_.add("quit " + application.localizedName.value_or("?"));
+        return true;
+    }
+
+    /// An application with a process of its own.
+    void add(std::optional<std::string> name, std::optional<std::string> identifier = std::nullopt)
+    {
+        const auto process = static_cast<int>(running.size()) + 100;
+        running.push_back({process, std::move(identifier), std::move(name), nullptr});
+    }
+
+    std::vector<RunningApplication> running{{kOwnProcess, "com.orken.test", "ORKEN", nullptr}};
 
 private:
     Journal& journal_;

@@ -37,8 +37,9 @@ void destroyLater(std::shared_ptr<DesktopWindow> window)
 
 } // namespace
 
-DesktopWindows::DesktopWindows(NotificationCenter& notifications, WindowAlertGate& alertGate)
-    : notifications_(notifications), alertGate_(alertGate), permanentPanel_(std::make_shared<AlertPanel>())
+DesktopWindows::DesktopWindows(NotificationCenter& notifications, WindowAlertGate& alertGate, KeyMonitors& keyMonitors)
+    : notifications_(notifications), alertGate_(alertGate), keyMonitors_(keyMonitors),
+      permanentPanel_(std::make_shared<AlertPanel>())
 {
     registry_.add(permanentPanel_, WindowKind::panel);
 }
@@ -48,6 +49,7 @@ DesktopWindows::~DesktopWindows() = default;
 void DesktopWindows::start(std::function<void()> userQuits)
 {
     userQuits_ = std::move(userQuits);
+    keyDownEvents_ = std::make_unique<KeyDownEvents>(keyMonitors_);
     toplevelsChanged_ = SignalConnection::make<void(GListModel*, guint, guint, guint)>(
         gtk_window_get_toplevels(), "items-changed",
         [this](GListModel*, guint, guint, guint) { syncToolkitWindows(); });

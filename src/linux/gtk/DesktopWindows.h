@@ -2,6 +2,7 @@
 
 #include "linux/gtk/AlertPanel.h"
 #include "linux/gtk/DesktopWindow.h"
+#include "linux/gtk/KeyDownEvents.h"
 #include "linux/gtk/ToolkitWindow.h"
 #include "platform/NotificationCenter.h"
 #include "platform/WindowRegistry.h"
@@ -16,10 +17,11 @@ namespace orken::desktop {
 /// This application's windows over GTK. Main thread only, after the toolkit has been initialised.
 class DesktopWindows final : public Windows {
 public:
-    DesktopWindows(NotificationCenter& notifications, WindowAlertGate& alertGate);
+    DesktopWindows(NotificationCenter& notifications, WindowAlertGate& alertGate, KeyMonitors& keyMonitors);
     ~DesktopWindows() override;
 
-    /// Begins to watch the toolkit's own windows; the permanent panel is in the list from here on.
+    /// Begins to watch the toolkit's own windows and all windows' keys; the permanent panel is in the list from here
+    /// on.
     void start(std::function<void()> userQuits);
 
     /// The window of a group: as large as its content, and out of the list once it is closed.
@@ -55,12 +57,14 @@ private:
 
     NotificationCenter& notifications_;
     WindowAlertGate& alertGate_;
+    KeyMonitors& keyMonitors_;
     std::function<void()> userQuits_;
     WindowRegistry registry_;
     std::vector<std::shared_ptr<DesktopWindow>> windows_;
     std::vector<std::shared_ptr<ToolkitWindow>> toolkitWindows_;
     std::shared_ptr<AlertPanel> permanentPanel_;
     SignalConnection toplevelsChanged_;
+    std::unique_ptr<KeyDownEvents> keyDownEvents_;
 };
 
 } // namespace orken::desktop

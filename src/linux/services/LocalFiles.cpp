@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -23,6 +24,49 @@ PlatformError lastError(const fs::path& item)
     return posixError(item, std::error_code(errno, std::generic_category()));
 }
 
+/// Closes at the end of its scope; an error of that is of no interest to a reader.
+class OpenFile {
+public:
+    OpenFile(const fs::path& file, int flags) : descriptor_(::open(file.c_str(), flags | O_CLOEXEC | O_NONBLOCK)) {}
+
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    ~OpenFile()
+    {
+        if (descriptor_ >= 0) {
+            ::close(descriptor_);
+        }
+    }
+
+    [[nodiscard]] int descriptor() const { return descriptor_; }
+
+private:
+    int descriptor_;
+};
+
+/// Up to the end or until there is more than `limit`; false with `errno` set when reading fails.
+bool readAll(int file, std::size_t limit, Bytes& content)
+{
+    constexpr std::size_t kChunk = 64 * 1024;
+    for (;;) {
+        const std::size_t size = content.size();
+        content.resize(size + kChunk);
+        const ssize_t count = ::read(file, content.data() + size, kChunk);
+        content.resize(size + (count > 0 ? static_cast<std::size_t>(count) : 0));
+        if (count == 0) {
+            return true;
+        }
+        if (count < 0 && errno != EINTR) {
+            return false;
+        }
+        if (content.size() > limit) {
+            errno = EFBIG;
+            return false;
+        }
+    }
+}
+
 bool writeAll(int file, const Bytes& content)
 {
     for (std::size_t done = 0; done < content.size();) {
@@ -37,6 +81,17 @@ bool writeAll(int file, const Bytes& content)
 
 } // namespace
 
+fs::path LocalFiles::homeDirectory() const
+{
+    return g_get_home_dir();
+}
+
+bool LocalFiles::fileExists(const fs::path& item) const
+{
+    std::error_code error;
+    return fs::exists(item, error);
+}
+
 std::vector<fs::path> LocalFiles::cachesDirectories() const
 {
     const fs::path directory = g_get_user_cache_dir();
@@ -46,11 +101,9 @@ std::vector<fs::path> LocalFiles::cachesDirectories() const
 Outcome<fs::path> LocalFiles::downloadsDirectory()
 {
     const char* named = g_get_user_special_dir(G_USER_DIRECTORY_DOWNLOAD);
-    const fs::path directory = named ? fs::path(named) : fs::path(g_get_home_dir()) / "Downloads";
-    std::error_code error;
-    fs::create_directories(directory, error);
-    if (error) {
-        return posixError(directory, error);
+    const fs::path directory = named ? fs::path(named) : homeDirectory() / "Downloads";
+    if (const auto created = createDirectory(directory); !created) {
+        return created.error();
     }
     return directory;
 }
@@ -66,6 +119,40 @@ Outcome<std::vector<std::string>> LocalFiles::contentsOfDirectory(const fs::path
         return posixError(directory, error);
     }
     return names;
+}
+
+Outcome<void> LocalFiles::createDirectory(const fs::path& directory)
+{
+    std::error_code error;
+    fs::create_directories(directory, error);
+    if (error) {
+        return posixError(directory, error);
+    }
+    return {};
+}
+
+Outcome<Bytes> LocalFiles::readFile(const fs::path& file, std::size_t limit) const
+{
+    const OpenFile opened(file, O_RDONLY);
+    if (opened.descriptor() < 0) {
+        return lastError(file);
+    }
+
+    struct stat status {};
+
+    if (::fstat(opened.descriptor(), &status) != 0) {
+        return lastError(file);
+    }
+    if (!S_ISREG(status.st_mode)) {
+        // A pipe would wait for its writer, a device might never end.
+        errno = S_ISDIR(status.st_mode) ? EISDIR : EINVAL;
+        return lastError(file);
+    }
+    Bytes content;
+    if (!readAll(opened.descriptor(), limit, content)) {
+        return lastError(file);
+    }
+    return content;
 }
 
 Outcome<void> LocalFiles::removeItem(const fs::path& item)

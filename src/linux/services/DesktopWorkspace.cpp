@@ -1,4 +1,4 @@
-#include "linux/services/FileManager.h"
+#include "linux/services/DesktopWorkspace.h"
 
 #include "linux/GObjectPtr.h"
 #include "linux/services/StandardConsole.h"
@@ -68,7 +68,18 @@ void connected(GObject*, GAsyncResult* result, gpointer data)
 
 } // namespace
 
-void FileManager::activateFileViewer(const Path& file)
+bool DesktopWorkspace::open(const std::string& url)
+{
+    // Not the asynchronous launcher: it would die with a process that ends right after this.
+    GError* error = nullptr;
+    if (g_app_info_launch_default_for_uri(url.c_str(), nullptr, &error)) {
+        return true;
+    }
+    reportDiagnostic(std::string("orken: no program could be opened for ") + url + ": " + GErrorPtr(error)->message);
+    return false;
+}
+
+void DesktopWorkspace::activateFileViewer(const Path& file)
 {
     g_bus_get(G_BUS_TYPE_SESSION, nullptr, connected, std::make_unique<Path>(file).release());
 }

@@ -1,4 +1,4 @@
-#include "linux/services/FileManager.h"
+#include "linux/services/DesktopWorkspace.h"
 
 #include "linux/GObjectPtr.h"
 
@@ -77,7 +77,7 @@ TEST_F(FileManagerTest, isAskedToSelectTheFile)
         nullptr);
     ASSERT_TRUE(runUntil([&] { return owned; }));
 
-    FileManager().activateFileViewer("/home/öğrenci/İndirilenler/ders 1.pdf");
+    DesktopWorkspace().activateFileViewer("/home/öğrenci/İndirilenler/ders 1.pdf");
     EXPECT_TRUE(runUntil([&] { return !shown.empty(); }));
     EXPECT_EQ(shown, "(['file:///home/%C3%B6%C4%9Frenci/%C4%B0ndirilenler/ders%201.pdf'], '')");
     g_dbus_node_info_unref(node);
@@ -93,7 +93,7 @@ TEST_F(FileManagerTest, withoutOneTheFolderIsOpened)
     fs::create_directories(home_ / "İndirilenler");
     std::ofstream(home_ / "İndirilenler/ders.pdf") << "content";
 
-    FileManager().activateFileViewer(home_ / "İndirilenler/ders.pdf");
+    DesktopWorkspace().activateFileViewer(home_ / "İndirilenler/ders.pdf");
     EXPECT_TRUE(runUntil([&] { return fs::exists(opened / "ders.pdf"); }));
 }
 

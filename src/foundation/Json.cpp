@@ -1,0 +1,39 @@
+#include "foundation/Json.h"
+
+#include <nlohmann/json.hpp>
+
+namespace orken {
+
+namespace {
+
+using Json = nlohmann::json;
+
+PlatformError jsonError(int code, std::string_view reason)
+{
+    return platformError("json", code, "", reason);
+}
+
+} // namespace
+
+Outcome<std::string> jsonTextMember(std::string_view document, std::string_view key)
+{
+    constexpr int kWrongShape = 1;
+    try {
+        const Json json = Json::parse(document);
+        if (!json.is_object()) {
+            return jsonError(kWrongShape, "the document is not an object");
+        }
+        const auto member = json.find(key);
+        if (member == json.end()) {
+            return jsonError(kWrongShape, "no member \"" + std::string(key) + "\"");
+        }
+        if (!member->is_string()) {
+            return jsonError(kWrongShape, "member \"" + std::string(key) + "\" is not a string");
+        }
+        return member->get<std::string>();
+    } catch (const Json::exception& error) {
+        return jsonError(error.id, error.what());
+    }
+}
+
+} // namespace orken

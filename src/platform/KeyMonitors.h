@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace orken {
+
+/// Virtual key code of the Escape key, whatever modifiers are held.
+inline constexpr int kEscapeKeyCode = 53;
+/// Every key that the client does not tell apart.
+inline constexpr int kOtherKeyCode = -1;
+
+struct KeyEvent {
+    int keyCode = kOtherKeyCode;
+};
+
+enum class KeyHandling { passOn, swallow };
+
+/// The application's local event monitors for key-downs. A desktop asks them about every key-down that goes to any
+/// window of the application, also under an alert, before anything else sees it. Main thread only.
+class KeyMonitors {
+public:
+    using Monitor = std::function<KeyHandling(const KeyEvent&)>;
+
+    KeyMonitors() = default;
+    KeyMonitors(const KeyMonitors&) = delete;
+    KeyMonitors& operator=(const KeyMonitors&) = delete;
+
+    /// Stays to the end of the process. Each call adds another one.
+    void add(Monitor monitor) { monitors_.push_back(std::make_shared<const Monitor>(std::move(monitor))); }
+
+    /// None is asked any more.
+    void stop() { monitors_.clear(); }
+
+    /// In the order in which they were added; the first that swallows is the last that is asked.
+    [[nodiscard]] KeyHandling handle(const KeyEvent& event) const
+    {
+        // By index and with a hold: a monitor may add another one.
+        for (std::size_t i = 0; i < monitors_.size(); ++i) {
+            const auto monitor = monitors_[i];
+            if ((*monitor)(event) == KeyHandling::swallow) {
+                return KeyHandling::swallow;
+            }
+        }
+        return KeyHandling::passOn;
+    }
+
+private:
+    std::vector<std::shared_ptr<const Monitor>> monitors_;
+};
+
+} // namespace orken

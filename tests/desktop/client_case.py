@@ -1,0 +1,59 @@
+"""What every test of the whole client starts from: a virtual desktop of its own, the demo provider, the client."""
+
+import os
+import pathlib
+import sys
+import unittest
+
+from on_virtual_desktop import SANITIZERS
+from harness.client import Client
+from virtual_desktop import Provider, VirtualDesktop
+
+BUNDLE = "com.orken.app"
+_BUILD = None
+
+
+class ClientCase(unittest.TestCase):
+    window_manager = True
+
+    def setUp(self):
+        self.desktop = self.enterContext(VirtualDesktop(window_manager=self.window_manager))
+        self.environment = {**self.desktop.new_environment(), **SANITIZERS}
+
+    def provider(self, *options):
+        return Provider(self.desktop, f"{_BUILD}/demo/orken-demo-provider", options)
+
+    def client(self, provider, **environment):
+        merged = {key: value for key, value in {**self.environment, **environment}.items() if value is not None}
+        return Client(self.desktop, f"{_BUILD}/demo/orken-demo", provider, merged)
+
+    def open_login_page(self, provider, **environment):
+        """A client in full screen with the login page on the screen, and the requests that came for it."""
+        client = self.client(provider, **environment)
+        clicked = client.open_application()
+        client.wait_for_login_page()
+        provider.wait_for_page("login", clicked, guests=[client.guest])
+        return client, provider.requests(clicked)
+
+    def assert_ends(self, client, status=0):
+        client.guest.wait_exit()
+        self.assertEqual(client.guest.exit_status(), status, client.guest.describe_end())
+
+    def stdout(self, client):
+        return [line.text for line in client.guest.lines("stdout")]
+
+    def seen(self, provider, what):
+        """Queries of the reports that pages have made of this kind."""
+        wanted = f"what={what}"
+        queries = [request["query"] for request in provider.requests() if request["path"] == "/demo/seen"]
+        return [query for query in queries if wanted in query.split("&")]
+
+    def home(self):
+        return pathlib.Path(self.environment["HOME"])
+
+
+def main():
+    """Runs the tests of the calling program: BUILD_FOLDER [test names]."""
+    global _BUILD
+    _BUILD = os.path.abspath(sys.argv.pop(1))
+    unittest.main(verbosity=2)

@@ -1,0 +1,80 @@
+#include "foundation/Base64.h"
+#include "foundation/Json.h"
+#include "foundation/PropertyList.h"
+
+#include <gtest/gtest.h>
+
+namespace orken {
+namespace {
+
+TEST(Json, givesATopLevelTextAndNothingElse)
+{
+    const std::pair<std::string, std::string> good[] = {
+        {R"({"macVersion": "1.4", "other": true})", "1.4"},
+        {"\xEF\xBB\xBF \n{\"macVersion\":\"\\u00D6\\ud83d\\ude00\\n\\u0000\"}\t", std::string("Ö😀\n\0", 8)},
+    };
+    for (const auto& [document, text] : good) {
+        const auto read = jsonTextMember(document, "macVersion");
+        ASSERT_TRUE(read) << document;
+        EXPECT_EQ(read.value(), text);
+    }
+    const std::string deep(100000, '[');
+    for (const std::string& document :
+         {std::string(), std::string("  "), std::string("<html>"), std::string(R"({"macVersion": 14})"),
+          std::string(R"({"macVersion": null})"), std::string(R"(["macVersion"])"), std::string(R"("macVersion")"),
+          std::string(R"({"a": {"macVersion": "1"}})"), std::string(R"({"macVersion": "1"} x)"),
+          std::string(R"({"macVersion": "1",})"), std::string(R"({"macVersion": "\ud800"})"),
+          std::string("{\"macVersion\": \"\xFF\"}"), std::string("{\"macVersion\": \"a\nb\"}"),
+          std::string(R"({/**/"macVersion": "1"})"), std::string(R"({"a": 1e400, "macVersion": "1"})"), deep}) {
+        const auto read = jsonTextMember(document, "macVersion");
+        ASSERT_FALSE(read) << document;
+        EXPECT_FALSE(read.error().message.empty());
+        EXPECT_EQ(read.error().message.find('\n'), std::string::npos);
+    }
+}
+
+constexpr const char* kZero = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                              "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
+                              "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
+                              "<plist version=\"1.0\">\n"
+                              "<dict>\n"
+                              "\t<key>restoreCount</key>\n"
+                              "\t<integer>0</integer>\n"
+                              "</dict>\n"
+                              "</plist>\n";
+
+TEST(PropertyList, isWrittenToTheByteAndReadBack)
+{
+    EXPECT_EQ(asText(writePropertyList("restoreCount", 0).value()), kZero);
+    for (const std::int64_t value : {std::int64_t{0}, std::int64_t{-1}, INT64_MAX, INT64_MIN}) {
+        const auto read = readPropertyList(writePropertyList("n", value).value());
+        EXPECT_EQ(read.value(), (PropertyListDictionary{{"n", value}}));
+    }
+}
+
+TEST(PropertyList, tellsIntegersFromOtherValuesAndDictionariesFromOtherLists)
+{
+    const auto read = [](const std::string& content) {
+        return readPropertyList(toBytes("<plist version=\"1.0\">" + content + "</plist>"));
+    };
+    const auto values = read("<dict><key>a</key><string>4</string><key>b</key><real>4.0</real><key>c</key><true/>"
+                             "<key>d</key><integer> 4 </integer><key>e</key><array/></dict>");
+    ASSERT_TRUE(values && values.value());
+    EXPECT_EQ(*values.value(), (PropertyListDictionary{{"a", {}}, {"b", {}}, {"c", {}}, {"d", 4}, {"e", {}}}));
+    EXPECT_EQ(read("<array/>").value(), std::nullopt);
+    EXPECT_EQ(read("<dict/>").value(), PropertyListDictionary());
+
+    // {"restoreCount": 4} in the binary form.
+    const Bytes binary =
+        decodeBase64("YnBsaXN0MDDRAQJccmVzdG9yZUNvdW50EAQICxgAAAAAAAABAQAAAAAAAAADAAAAAAAAAAAAAAAAAAAAGg==").value();
+    EXPECT_EQ(readPropertyList(binary).value(), (PropertyListDictionary{{"restoreCount", 4}}));
+    for (std::size_t length = 0; length < binary.size(); ++length) {
+        (void)readPropertyList(Bytes(binary.begin(), binary.begin() + static_cast<std::ptrdiff_t>(length)));
+    }
+    for (const char* bad : {"", "{a=1;}", "{\"a\":1}", "word", "<plist", "bplist00"}) {
+        EXPECT_FALSE(readPropertyList(toBytes(bad))) << bad;
+    }
+}
+
+} // namespace
+} // namespace orken
