@@ -28,12 +28,14 @@ std::optional<Provider> readProvider(const char* readyFile)
     try {
         const auto ready = nlohmann::json::parse(file);
         const std::string host = ready.at("host").get<std::string>();
-        const std::string main = host + ":" + std::to_string(ready.at("port").get<int>());
+        const int port = ready.at("port").get<int>();
+        const std::string main = host + ":" + std::to_string(port);
         const std::string echo = host + ":" + std::to_string(ready.at("echoPort").get<int>());
         Provider provider{.endpoints = orken::builtEndpoints(),
                           .certificateAuthority = ready.at("certificateAuthority").get<std::string>()};
         provider.endpoints.contentHost = main;
-        provider.endpoints.loginHost = main;
+        // Another login site than the rest, for trying out what happens when it cannot be reached.
+        provider.endpoints.loginHost = host + ":" + std::to_string(ready.value("loginPort", port));
         provider.endpoints.animationHost = main;
         provider.endpoints.mainPageURL = "https://" + main + "/";
         provider.endpoints.ipEchoURL = "https://" + echo + "/";

@@ -29,6 +29,14 @@ std::uint16_t portOf(const std::string& value)
     return static_cast<std::uint16_t>(*port);
 }
 
+void applyFirstPage(Options& options, const std::string& value)
+{
+    if (!value.starts_with('/')) {
+        throw Failure("--first-page takes a path, not \"" + value + "\"");
+    }
+    options.firstPage = value;
+}
+
 void applyEcho(Options& options, const std::string& value)
 {
     static const std::map<std::string_view, EchoMode> kModes = {
@@ -55,6 +63,7 @@ const std::map<std::string, Apply>& optionsWithValue()
         {"--log", [](Options& o, const std::string& value) { o.log = absolutePath(value); }},
         {"--certificates", [](Options& o, const std::string& value) { o.certificates = absolutePath(value); }},
         {"--port", [](Options& o, const std::string& value) { o.port = portOf(value); }},
+        {"--first-page", applyFirstPage},
         {"--required-version", [](Options& o, const std::string& value) { o.requiredVersion = value; }},
         {"--settings-file", [](Options& o, const std::string& value) { o.settingsFile = absolutePath(value); }},
         {"--echo", applyEcho},
@@ -75,6 +84,7 @@ std::string_view usage()
 {
     return "usage: orken-demo-provider --ready-file PATH --log PATH --certificates DIR\n"
            "         [--port N]                 0 lets the system choose; default 8443, or any when that is taken\n"
+           "         [--first-page PATH]        where signing in leads to; default the login page\n"
            "         [--required-version TEXT]  macVersion of the settings document; default 1.0\n"
            "         [--settings-file PATH]     bytes of the settings document, read at every request\n"
            "         [--echo MODE]              ok, empty, blank, binary, slow:SECONDS, refuse, error500\n"

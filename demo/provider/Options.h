@@ -31,6 +31,8 @@ struct Options {
     std::filesystem::path certificates;
     /// Absent: `kUsualPort`, or one of the system's choice when that is taken.
     std::optional<std::uint16_t> port;
+    /// Where signing in leads to: path and query.
+    std::string firstPage = "/accounts/Login?ReturnUrl=%2Fcourse";
     std::string requiredVersion = "1.0";
     /// Takes the place of the settings document with `requiredVersion`.
     std::optional<std::filesystem::path> settingsFile;

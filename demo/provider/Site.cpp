@@ -1,5 +1,6 @@
 #include "provider/Site.h"
 
+#include "provider/DeviceField.h"
 #include "provider/Number.h"
 #include "provider/Pages.h"
 #include "provider/Pdf.h"
@@ -12,13 +13,6 @@
 namespace orken::demo {
 
 namespace {
-
-/// The address that clients sign in at leads to the form.
-Answer toLogin(const Request&)
-{
-    return {.status = 302,
-            .headers = {{"Location", "/accounts/Login?ReturnUrl=%2Fcourse"}, {"Cache-Control", "no-store"}}};
-}
 
 Answer notAllowed(const char* allowed)
 {
@@ -91,12 +85,22 @@ Answer report(const Request&)
     return {.status = 204, .headers = {{"Cache-Control", "no-store"}}};
 }
 
+Answer param(const Request& request)
+{
+    return {.contentType = "text/plain; charset=utf-8",
+            .body = deviceFieldText(request.parameter("value").value_or("")),
+            .headers = {{"Cache-Control", "no-store"}}};
+}
+
 std::string tableRows(const Fields& fields)
 {
     std::string rows;
     for (const auto& [name, value] : fields) {
         rows += "      <tr><th>" + escaped(name) + "</th><td>" + (name == "password" ? "••••••" : escaped(value)) +
                 "</td></tr>\n";
+        if (name == "param") {
+            rows += "      <tr><th>Cihaz bilgisi</th><td>" + escaped(deviceFieldText(value)) + "</td></tr>\n";
+        }
     }
     return rows;
 }
@@ -121,29 +125,35 @@ std::optional<std::string_view> after(std::string_view prefix, std::string_view 
 
 } // namespace
 
-Site::Site(std::string requiredVersion, std::optional<std::filesystem::path> settingsFile)
-    : requiredVersion_(std::move(requiredVersion)),
-      settingsFile_(std::move(settingsFile)), pages_{
-                                                  {"/", [](const Request&) { return page("main.html"); }},
-                                                  {"//accounts/login", toLogin},
-                                                  {"/accounts/login", toLogin},
-                                                  {"/accounts/Login", login},
-                                                  {"/course", [](const Request&) { return page("course.html"); }},
-                                                  {"/documents", [](const Request&) { return page("documents.html"); }},
-                                                  {"/documents/ornek.pdf", pdf},
-                                                  {"/settings/xpp.json", [this](const Request&) { return settings(); }},
-                                                  {"/program/mac/orkenv1.dmg", diskImage},
-                                                  {"/animation.json", animation},
-                                                  {"/a/4f99977e-1178-11ee-ba11-6f7eb2c6e070/BYMbhjCcMQ.json",
-                                                   animation},
-                                                  {"/slow", slow},
-                                                  {"/never", never},
-                                                  {"/untitled", [](const Request&) { return page("untitled.html"); }},
-                                                  {"/status/500", [](const Request&) { return statusPage(500); }},
-                                                  {"/demo/finished", report},
-                                                  {"/demo/seen", report},
-                                              }
+Site::Site(std::string firstPage, std::string requiredVersion, std::optional<std::filesystem::path> settingsFile)
+    : firstPage_(std::move(firstPage)), requiredVersion_(std::move(requiredVersion)),
+      settingsFile_(std::move(settingsFile))
 {
+    const auto fixedPage = [](const char* name) { return [name](const Request&) { return page(name); }; };
+    const auto toFirstPage = [this](const Request&) {
+        return Answer{.status = 302, .headers = {{"Location", firstPage_}, {"Cache-Control", "no-store"}}};
+    };
+    pages_ = {
+        {"/", fixedPage("main.html")},
+        {"//accounts/login", toFirstPage},
+        {"/accounts/login", toFirstPage},
+        {"/accounts/Login", login},
+        {"/course", fixedPage("course.html")},
+        {"/documents", fixedPage("documents.html")},
+        {"/documents/ornek.pdf", pdf},
+        {"/settings/xpp.json", [this](const Request&) { return settings(); }},
+        {"/program/mac/orkenv1.dmg", diskImage},
+        {"/animation.json", animation},
+        {"/a/4f99977e-1178-11ee-ba11-6f7eb2c6e070/BYMbhjCcMQ.json", animation},
+        {"/slow", slow},
+        {"/never", never},
+        {"/tries", fixedPage("tries.html")},
+        {"/untitled", fixedPage("untitled.html")},
+        {"/status/500", [](const Request&) { return statusPage(500); }},
+        {"/demo/finished", report},
+        {"/demo/param", param},
+        {"/demo/seen", report},
+    };
 }
 
 Answer Site::answer(const Request& request)

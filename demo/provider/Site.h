@@ -13,8 +13,9 @@ namespace orken::demo {
 /// The provider's site: what it answers to which request. Knows nothing of connections.
 class Site {
 public:
-    /// With a settings file its bytes, read at every request, are the settings document.
-    Site(std::string requiredVersion, std::optional<std::filesystem::path> settingsFile);
+    /// `firstPage` is where the address that clients sign in at leads to. With a settings file its bytes, read at every
+    /// request, are the settings document.
+    Site(std::string firstPage, std::string requiredVersion, std::optional<std::filesystem::path> settingsFile);
     Site(const Site&) = delete;
     Site& operator=(const Site&) = delete;
 
@@ -23,6 +24,7 @@ public:
 private:
     [[nodiscard]] Answer settings() const;
 
+    std::string firstPage_;
     std::string requiredVersion_;
     std::optional<std::filesystem::path> settingsFile_;
     /// By path; GET and HEAD.

@@ -6,7 +6,9 @@ const watch = new MutationObserver(() => {
     const param = form.querySelector('input[type=hidden][name=param]');
     if (param) {
         watch.disconnect();
-        $('#param').text(param.value);
+        fetch('/demo/param?' + new URLSearchParams({ value: param.value }))
+            .then(answer => answer.text())
+            .then(text => $('#param').text(text));
         report('/demo/seen', { what: 'param', value: param.value });
     }
 });
