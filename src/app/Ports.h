@@ -14,6 +14,7 @@
 #include "platform/MainQueue.h"
 #include "platform/NotificationCenter.h"
 #include "platform/RunningApplications.h"
+#include "platform/Timers.h"
 #include "platform/UrlSession.h"
 #include "platform/WebsiteDataStore.h"
 #include "platform/Windows.h"
@@ -28,6 +29,7 @@ struct Ports {
     NotificationCenter& notifications;
     KeyMonitors& keyMonitors;
     MainQueue& mainQueue;
+    Timers& timers;
     Console& console;
     const Clock& clock;
     Alerts& alerts;
@@ -52,6 +54,7 @@ template <class Desktop>
             .notifications = desktop.notifications,
             .keyMonitors = desktop.keyMonitors,
             .mainQueue = desktop.mainQueue,
+            .timers = desktop.timers,
             .console = desktop.console,
             .clock = desktop.clock,
             .alerts = desktop.alerts,

@@ -37,7 +37,13 @@ VistroApp::VistroApp(const Ports& ports, Endpoints endpoints)
                     .files = ports.files,
                     .alerts = ports.alerts,
                     .workspace = ports.workspace,
-                    .clock = ports.clock})
+                    .clock = ports.clock}),
+      periodicCheck_({.timers = ports.timers,
+                      .mainQueue = ports.mainQueue,
+                      .windowControl = windowControl_,
+                      .otherApplications = otherApplications_}),
+      pageScripts_({.console = ports.console, .mainQueue = ports.mainQueue, .periodicCheck = periodicCheck_},
+                   pageValues_)
 {
 }
 
@@ -77,11 +83,13 @@ std::unique_ptr<View> VistroApp::makeContentView()
 
 std::unique_ptr<View> VistroApp::makeSessionScreen(const std::string& link)
 {
-    return std::make_unique<WebView>(link, WebView::Ports{.browserViews = ports_.browserViews,
-                                                          .windowControl = windowControl_,
-                                                          .browserServices = {.console = ports_.console,
-                                                                              .loginParameter = loginParameter_,
-                                                                              .pdfDownload = pdfDownload_}});
+    return std::make_unique<WebView>(
+        link, WebView::Ports{.browserViews = ports_.browserViews,
+                             .windowControl = windowControl_,
+                             .browserServices = {.coordinator = {.console = ports_.console,
+                                                                 .loginParameter = loginParameter_,
+                                                                 .pdfDownload = pdfDownload_},
+                                                 .pageScripts = pageScripts_}});
 }
 
 } // namespace orken

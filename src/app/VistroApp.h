@@ -7,7 +7,9 @@
 #include "app/Uninstall.h"
 #include "app/VersionGate.h"
 #include "browser/LoginParameter.h"
+#include "browser/PageScripts.h"
 #include "browser/PdfDownload.h"
+#include "browser/PeriodicCheck.h"
 #include "crypto/DeviceIdentity.h"
 #include "foundation/Endpoints.h"
 #include "session/WindowControl.h"
@@ -44,6 +46,9 @@ private:
     WindowControl windowControl_;
     LoginParameter loginParameter_;
     PdfDownload pdfDownload_;
+    PeriodicCheck periodicCheck_;
+    PageValues pageValues_;
+    PageScripts pageScripts_;
 };
 
 } // namespace orken

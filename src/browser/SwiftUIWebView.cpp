@@ -1,6 +1,5 @@
 #include "browser/SwiftUIWebView.h"
 
-#include "browser/PageScripts.h"
 #include "foundation/Url.h"
 
 namespace orken {
@@ -15,7 +14,7 @@ constexpr const char* kContextMenuScript = "document.addEventListener(\"contextm
 
 std::shared_ptr<Coordinator> SwiftUIWebView::makeCoordinator() const
 {
-    return std::make_shared<Coordinator>(viewModel_, services_);
+    return std::make_shared<Coordinator>(viewModel_, services_.coordinator);
 }
 
 std::shared_ptr<BrowserView> SwiftUIWebView::makeNSView(const Context& context)
@@ -38,7 +37,7 @@ std::shared_ptr<BrowserView> SwiftUIWebView::makeNSView(const Context& context)
 
 void SwiftUIWebView::updateNSView(BrowserView& nsView, const Context&)
 {
-    runPageScripts(nsView, *viewModel_);
+    services_.pageScripts.runUpdatePass(nsView, viewModel_);
 }
 
 } // namespace orken

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "browser/Coordinator.h"
+#include "browser/PageScripts.h"
 #include "platform/BrowserView.h"
 #include "session/WebViewModel.h"
 #include "view/Representable.h"
@@ -20,8 +21,13 @@ class SwiftUIWebView {
 public:
     using Context = RepresentableContext<Coordinator>;
 
+    struct Services {
+        Coordinator::Services coordinator;
+        PageScripts& pageScripts;
+    };
+
     SwiftUIWebView(std::shared_ptr<WebViewModel> viewModel, State<bool> removedIdentity,
-                   std::shared_ptr<BrowserView> webView, const Coordinator::Services& services)
+                   std::shared_ptr<BrowserView> webView, const Services& services)
         : viewModel_(std::move(viewModel)), removedIdentity_(std::move(removedIdentity)), webView_(std::move(webView)),
           services_(services)
     {
@@ -39,7 +45,7 @@ private:
     /// Carried with the view; the flag that the page scripts use is the model's.
     State<bool> removedIdentity_;
     std::shared_ptr<BrowserView> webView_;
-    Coordinator::Services services_;
+    Services services_;
 };
 
 } // namespace orken

@@ -8,6 +8,8 @@ namespace {
 
 using Json = nlohmann::json;
 
+constexpr int kWrongShape = 1;
+
 PlatformError jsonError(int code, std::string_view reason)
 {
     return platformError("json", code, "", reason);
@@ -17,7 +19,6 @@ PlatformError jsonError(int code, std::string_view reason)
 
 Outcome<std::string> jsonTextMember(std::string_view document, std::string_view key)
 {
-    constexpr int kWrongShape = 1;
     try {
         const Json json = Json::parse(document);
         if (!json.is_object()) {
@@ -31,6 +32,29 @@ Outcome<std::string> jsonTextMember(std::string_view document, std::string_view 
             return jsonError(kWrongShape, "member \"" + std::string(key) + "\" is not a string");
         }
         return member->get<std::string>();
+    } catch (const Json::exception& error) {
+        return jsonError(error.id, error.what());
+    }
+}
+
+Outcome<std::optional<JsonNumbers>> jsonNumbers(std::string_view document)
+{
+    try {
+        const Json json = Json::parse(document);
+        if (!json.is_structured()) {
+            return jsonError(kWrongShape, "the document is neither an object nor an array");
+        }
+        if (!json.is_object()) {
+            return std::optional<JsonNumbers>();
+        }
+        JsonNumbers numbers;
+        for (const auto& [key, value] : json.items()) {
+            if (!value.is_number()) {
+                return std::optional<JsonNumbers>();
+            }
+            numbers[key] = value.get<double>();
+        }
+        return std::optional(std::move(numbers));
     } catch (const Json::exception& error) {
         return jsonError(error.id, error.what());
     }

@@ -62,7 +62,8 @@ public:
     /// after a failed first one.
     [[nodiscard]] virtual std::optional<std::string> url() const = 0;
 
-    /// Runs a script in the page's own world of the main frame. The completion comes once, later.
+    /// Runs a script in the page's own world of the main frame. The completion comes once, later; without one the
+    /// result and its errors are dropped.
     virtual void evaluateJavaScript(const std::string& script, ScriptCompletion completion) = 0;
 
     /// Runs the body of an asynchronous function, which may `await` and `return`, in the main frame and in the client's

@@ -16,7 +16,7 @@ public:
     struct Ports {
         BrowserViews& browserViews;
         WindowControl& windowControl;
-        Coordinator::Services browserServices;
+        SwiftUIWebView::Services browserServices;
     };
 
     WebView(const std::string& link, const Ports& ports);

@@ -43,9 +43,9 @@ public:
 
     simulated::SimulatedDesktop desktop;
     VistroApp app{{desktop.application, desktop.windows, desktop.notifications, desktop.keyMonitors, desktop.loop,
-                   desktop.console, desktop.clock, desktop.alerts, desktop.workspace, desktop.runningApplications,
-                   desktop.bundle, desktop.files, desktop.cookies, desktop.websiteData, desktop.network,
-                   desktop.network, desktop.hardware, desktop.browserViews},
+                   desktop.loop, desktop.console, desktop.clock, desktop.alerts, desktop.workspace,
+                   desktop.runningApplications, desktop.bundle, desktop.files, desktop.cookies, desktop.websiteData,
+                   desktop.network, desktop.network, desktop.hardware, desktop.browserViews},
                   {.bundleIdentifier = "com.orken.test",
                    .version = "2.1",
                    .contentHost = "content.example",

@@ -119,7 +119,7 @@ private:
     {
         loop_.requireMainThread();
         journal_.add(kind + script);
-        if (auto result = onScript(script)) {
+        if (auto result = onScript(script); result && completion) {
             loop_.later(Seconds{0},
                         [result = std::move(*result), completion = std::move(completion)] { completion(result); });
         }

@@ -156,9 +156,11 @@ std::optional<std::string> WebKitBrowserView::url() const
 void WebKitBrowserView::evaluateJavaScript(const std::string& script, ScriptCompletion completion)
 {
     constexpr const char* kPageWorld = nullptr;
-    webkit_web_view_evaluate_javascript(view_.get(), script.data(), static_cast<gssize>(script.size()), kPageWorld,
-                                        nullptr, nullptr, AsyncReply::call,
-                                        scriptReply(webkit_web_view_evaluate_javascript_finish, std::move(completion)));
+    const bool isAwaited = static_cast<bool>(completion);
+    webkit_web_view_evaluate_javascript(
+        view_.get(), script.data(), static_cast<gssize>(script.size()), kPageWorld, nullptr, nullptr,
+        isAwaited ? AsyncReply::call : nullptr,
+        isAwaited ? scriptReply(webkit_web_view_evaluate_javascript_finish, std::move(completion)) : nullptr);
 }
 
 void WebKitBrowserView::callAsyncJavaScript(const std::string& functionBody, ScriptCompletion completion)
