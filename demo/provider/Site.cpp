@@ -150,6 +150,7 @@ Site::Site(std::string firstPage, std::string requiredVersion, std::optional<std
         {"/tries", fixedPage("tries.html")},
         {"/untitled", fixedPage("untitled.html")},
         {"/status/500", [](const Request&) { return statusPage(500); }},
+        {"/keys", fixedPage("keys.html")},
         {"/demo/finished", report},
         {"/demo/param", param},
         {"/demo/seen", report},

@@ -13,6 +13,10 @@ BUNDLE = "com.orken.app"
 _BUILD = None
 
 
+def build_folder():
+    return _BUILD
+
+
 class ClientCase(unittest.TestCase):
     window_manager = True
 

@@ -11,11 +11,23 @@ constexpr int kIconSize = 48;
 constexpr int kTextWidthInCharacters = 48;
 /// A longer text scrolls, so that the buttons stay on the screen.
 constexpr int kMaximumTextHeight = 360;
+/// In characters. Texts from outside are as long as somebody makes them, and the layout of one of megabytes takes
+/// minutes.
+constexpr glong kLongestText = 2000;
+
+/// Valid, and not longer than can be shown.
+std::string shownText(const std::string& text)
+{
+    const GText valid(g_utf8_make_valid(text.data(), static_cast<gssize>(text.size())));
+    if (g_utf8_strlen(valid.get(), -1) <= kLongestText) {
+        return valid.get();
+    }
+    return std::string(valid.get(), g_utf8_offset_to_pointer(valid.get(), kLongestText)) + "…";
+}
 
 GtkWidget* makeLabel(const std::string& text, const char* cssClass)
 {
-    const GText valid(g_utf8_make_valid(text.data(), static_cast<gssize>(text.size())));
-    GtkWidget* label = gtk_label_new(valid.get());
+    GtkWidget* label = gtk_label_new(shownText(text).c_str());
     gtk_label_set_wrap(GTK_LABEL(label), TRUE);
     gtk_label_set_wrap_mode(GTK_LABEL(label), PANGO_WRAP_WORD_CHAR);
     gtk_label_set_max_width_chars(GTK_LABEL(label), kTextWidthInCharacters);
@@ -37,7 +49,12 @@ GtkWidget* makeTexts(const AlertWidgetsContent& content)
         gtk_scrolled_window_set_propagate_natural_height(GTK_SCROLLED_WINDOW(scroller), TRUE);
         gtk_scrolled_window_set_propagate_natural_width(GTK_SCROLLED_WINDOW(scroller), TRUE);
         gtk_scrolled_window_set_max_content_height(GTK_SCROLLED_WINDOW(scroller), kMaximumTextHeight);
-        gtk_scrolled_window_set_child(GTK_SCROLLED_WINDOW(scroller), makeLabel(content.message, nullptr));
+        GtkWidget* label = makeLabel(content.message, nullptr);
+        gtk_scrolled_window_set_child(GTK_SCROLLED_WINDOW(scroller), label);
+        int height = 0;
+        gtk_widget_measure(label, GTK_ORIENTATION_VERTICAL, -1, nullptr, &height, nullptr, nullptr);
+        // A text that is seen whole is no stop on the way from button to button.
+        gtk_widget_set_can_focus(scroller, height > kMaximumTextHeight);
         gtk_box_append(GTK_BOX(texts), scroller);
     }
     return texts;
@@ -103,11 +120,12 @@ void fillAlertWindow(GtkWindow* window, const AlertWidgetsContent& content,
     gtk_box_append(GTK_BOX(column), row);
     gtk_box_append(GTK_BOX(column), buttons);
     gtk_window_set_child(window, column);
-    gtk_window_set_title(window, content.title.c_str());
+    const std::string title = shownText(content.title);
+    gtk_window_set_title(window, title.c_str());
     gtk_window_set_focus(window, gtk_window_get_default_widget(window));
     // The text is what a screen reader says first.
-    gtk_accessible_update_property(GTK_ACCESSIBLE(window), GTK_ACCESSIBLE_PROPERTY_LABEL, content.title.c_str(),
-                                   GTK_ACCESSIBLE_PROPERTY_DESCRIPTION, content.message.c_str(), -1);
+    gtk_accessible_update_property(GTK_ACCESSIBLE(window), GTK_ACCESSIBLE_PROPERTY_LABEL, title.c_str(),
+                                   GTK_ACCESSIBLE_PROPERTY_DESCRIPTION, shownText(content.message).c_str(), -1);
 }
 
 } // namespace orken::desktop
