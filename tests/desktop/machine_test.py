@@ -131,6 +131,28 @@ class Keys(MachineCase):
         self.assertEqual(client.guest.terminate(), 0)
 
 
+class Wayland(MachineCase):
+    def test_full_screen_and_keys_work_on_a_screen_smaller_than_the_session_asks_for(self):
+        # 1024 by 640, in a window of this desktop, whose keyboard it has.
+        compositor = ["weston", "--backend=x11-backend.so", "--socket=inner", "--idle-time=0"]
+        weston = self.desktop.spawn(compositor, environment=self.environment)
+        socket = pathlib.Path(self.environment["XDG_RUNTIME_DIR"], "inner")
+        wait_for("the compositor", lambda: socket.exists() and self.desktop.screen.active_window(), guests=[weston])
+        provider = self.provider("--first-page", "/keys")
+        client = self.client(provider, DISPLAY=None, WAYLAND_DISPLAY="inner")
+        find = self.desktop.screen.image
+        client.wait_for("the start window", lambda: len(find().find_rectangles("#8e8e93", 4, 300, 50)) == 2)
+        self.desktop.screen.key("Return")
+        client.guest.wait_for_line("other applications cannot be listed: there is no X server")
+        provider.wait_for_page("keys", guests=[client.guest])
+        client.wait_for("full screen", lambda: find().find_rectangle("#0a7d4f", 4, 1024, 8))
+        for key in ("a", "Escape", "b"):
+            self.desktop.screen.key(key)
+        provider.wait_for_request("the last key", lambda request: "what=key&key=b" in request["query"])
+        self.assertEqual(self.seen(provider, "key"), ["what=key&key=a", "what=key&key=b"])
+        self.assertEqual(client.guest.terminate(), 0)
+
+
 class Bundle(MachineCase):
     """In a root of its own, whose /Applications holds what the build installs there."""
 

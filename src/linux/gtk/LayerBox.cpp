@@ -1,6 +1,7 @@
 #include "linux/gtk/LayerBox.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -8,6 +9,9 @@ struct LayerBoxState {
     std::optional<GdkRGBA> background;
     std::function<void(orken::Size)> onResize;
     orken::Size size;
+    int minimumWidth = 0;
+    int minimumHeight = 0;
+    gulong monitorsChanged = 0;
 };
 
 struct OrkenLayerBox {
@@ -34,11 +38,42 @@ void forEachChild(GtkWidget* widget, Visit visit)
     }
 }
 
+GListModel* monitorsOf(GtkWidget* widget)
+{
+    return gdk_display_get_monitors(gtk_widget_get_display(widget));
+}
+
+/// The extent of the smallest screen; absent while there is none.
+std::optional<int> smallestScreen(GtkWidget* widget, GtkOrientation orientation)
+{
+    std::optional<int> smallest;
+    GListModel* monitors = monitorsOf(widget);
+    for (guint i = 0; i < g_list_model_get_n_items(monitors); ++i) {
+        auto* monitor = static_cast<GdkMonitor*>(g_list_model_get_item(monitors, i));
+        GdkRectangle geometry{};
+        gdk_monitor_get_geometry(monitor, &geometry);
+        g_object_unref(monitor);
+        const int extent = orientation == GTK_ORIENTATION_HORIZONTAL ? geometry.width : geometry.height;
+        // A monitor that has only just come may not have a size yet.
+        if (extent > 0) {
+            smallest = std::min(smallest.value_or(extent), extent);
+        }
+    }
+    return smallest;
+}
+
+int leastExtent(GtkWidget* widget, GtkOrientation orientation)
+{
+    const LayerBoxState& state = *asLayerBox(widget)->state;
+    const int asked = orientation == GTK_ORIENTATION_HORIZONTAL ? state.minimumWidth : state.minimumHeight;
+    return asked > 0 ? std::min(asked, smallestScreen(widget, orientation).value_or(asked)) : 0;
+}
+
 void measure(GtkWidget* widget, GtkOrientation orientation, int forSize, int* minimum, int* natural,
              int* minimumBaseline, int* naturalBaseline)
 {
-    *minimum = 0;
-    *natural = 0;
+    *minimum = leastExtent(widget, orientation);
+    *natural = *minimum;
     *minimumBaseline = -1;
     *naturalBaseline = -1;
     forEachChild(widget, [&](GtkWidget* child) {
@@ -102,6 +137,9 @@ void computeExpand(GtkWidget* widget, gboolean* horizontally, gboolean* vertical
 
 void dispose(GObject* object)
 {
+    if (gulong& handler = asLayerBox(object)->state->monitorsChanged; handler != 0) {
+        g_signal_handler_disconnect(monitorsOf(GTK_WIDGET(object)), std::exchange(handler, 0));
+    }
     while (GtkWidget* child = gtk_widget_get_first_child(GTK_WIDGET(object))) {
         gtk_widget_unparent(child);
     }
@@ -150,6 +188,18 @@ void layerBoxSetBackground(GtkWidget* box, const std::optional<GdkRGBA>& color)
 void layerBoxOnResize(GtkWidget* box, std::function<void(Size)> callback)
 {
     asLayerBox(box)->state->onResize = std::move(callback);
+}
+
+void layerBoxSetMinimum(GtkWidget* box, int width, int height)
+{
+    LayerBoxState& state = *asLayerBox(box)->state;
+    state.minimumWidth = width;
+    state.minimumHeight = height;
+    if ((width > 0 || height > 0) && state.monitorsChanged == 0) {
+        state.monitorsChanged =
+            g_signal_connect_swapped(monitorsOf(box), "items-changed", G_CALLBACK(gtk_widget_queue_resize), box);
+    }
+    gtk_widget_queue_resize(box);
 }
 
 } // namespace orken::desktop

@@ -18,4 +18,8 @@ void layerBoxSetBackground(GtkWidget* box, const std::optional<GdkRGBA>& color);
 /// Called with the new size whenever the layout has changed it; from inside the layout, so it may only note it.
 void layerBoxOnResize(GtkWidget* box, std::function<void(Size)> callback);
 
+/// The least size of the box, in logical pixels; 0 for none. It never asks for more than the smallest screen has: a
+/// window in full screen that is larger than its screen hides a part of itself, and on Wayland ends the program.
+void layerBoxSetMinimum(GtkWidget* box, int width, int height);
+
 } // namespace orken::desktop

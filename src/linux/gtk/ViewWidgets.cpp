@@ -193,8 +193,8 @@ void ViewWidgets::applyFrame(const Modifiers& modifiers)
 
     const Frame frame = modifiers.frame.value_or(Frame{});
     // The smallest size also of a fixed frame: a text that the desktop's scale makes larger is not cut.
-    gtk_widget_set_size_request(outer, pixels(frame.width.value_or(frame.minWidth.value_or(-1))),
-                                pixels(frame.height.value_or(frame.minHeight.value_or(-1))));
+    gtk_widget_set_size_request(outer, pixels(frame.width.value_or(-1)), pixels(frame.height.value_or(-1)));
+    layerBoxSetMinimum(outer, pixels(frame.minWidth.value_or(0)), pixels(frame.minHeight.value_or(0)));
     const auto setExpand = [&](bool fixed, auto set, auto reset) {
         if (fixed || frame.fill) {
             set(outer, frame.fill ? TRUE : FALSE);
