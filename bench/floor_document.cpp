@@ -1,12 +1,10 @@
 // The least that handing a page's document over costs: the engine with one view, the address given as the only
 // argument. When the page goes to a blob, asks for its data URL as a text and prints "handed over BYTES".
 
-#include "Floor.h"
+#include "PageFloor.h"
 
 #include <cstdio>
 #include <cstring>
-
-#include <webkit/webkit.h>
 
 namespace {
 
@@ -51,20 +49,8 @@ gboolean decide(WebKitWebView* view, WebKitPolicyDecision* decision, WebKitPolic
 
 void activate(GtkApplication* application, const char* address)
 {
-    WebKitNetworkSession* session = webkit_network_session_new_ephemeral();
-    webkit_network_session_set_tls_errors_policy(session, WEBKIT_TLS_ERRORS_POLICY_IGNORE);
-    auto* view = WEBKIT_WEB_VIEW(g_object_new(WEBKIT_TYPE_WEB_VIEW, "network-session", session, nullptr));
-    g_object_unref(session);
-    if (!orken::bench::hasRenderNode()) {
-        webkit_settings_set_hardware_acceleration_policy(webkit_web_view_get_settings(view),
-                                                         WEBKIT_HARDWARE_ACCELERATION_POLICY_NEVER);
-    }
+    WebKitWebView* view = orken::bench::showView(application, webkit_network_session_new_ephemeral());
     g_signal_connect(view, "decide-policy", G_CALLBACK(decide), nullptr);
-
-    GtkWidget* window = gtk_application_window_new(application);
-    gtk_window_set_child(GTK_WINDOW(window), GTK_WIDGET(view));
-    gtk_window_fullscreen(GTK_WINDOW(window));
-    gtk_window_present(GTK_WINDOW(window));
     webkit_web_view_load_uri(view, address);
 }
 
