@@ -16,6 +16,10 @@ from virtual_desktop import Client, NotReached, Provider, VirtualDesktop
 
 _ROOT = pathlib.Path(__file__).resolve().parent.parent
 
+# Where "Belgeler" stands in the navigation of the demo's pages, in pixels.
+_DOCUMENTS_FROM_RIGHT = 129
+_NAVIGATION_HEIGHT = 81
+
 
 class Tour:
     """The walk's state. Each public operation is one step; STEPS below gives their order."""
@@ -66,6 +70,21 @@ class Tour:
         self._provider.wait_for_page("session", since=began, guests=[self._client.guest])
         return self._picture("signed-in")
 
+    def document(self):
+        """By the page's navigation to the documents; the first one's button has the focus there."""
+        began = self._desktop.screen.click(self._options.width - _DOCUMENTS_FROM_RIGHT, _NAVIGATION_HEIGHT)
+        self._provider.wait_for_page("documents", since=began, guests=[self._client.guest])
+        self._desktop.screen.key("Return")
+        saved = self._client.guest.wait_for_line("başarıyla indirildi.").text
+        self._client.wait_for("the alert", lambda: self._active_title() == saved)
+        picture = self._picture("saved")
+        file = pathlib.Path(self._desktop.environment["HOME"], "Downloads", saved.split(" ")[0])
+        _expect(file.read_bytes().startswith(b"%PDF-"), f"{file} is no PDF")
+        self._desktop.screen.key("Tab")
+        self._desktop.screen.key("Return")
+        self._client.wait_for("the page again", lambda: self._active_title() != saved)
+        return picture
+
     def end(self):
         status = self._client.guest.terminate()
         _expect(status == 0, f"the client ended with status {status}")
@@ -77,6 +96,10 @@ class Tour:
         if self._client:
             for line in self._client.guest.lines()[-20:]:
                 print(f"      {line.stream}: {line.text}")
+
+    def _active_title(self):
+        active = self._desktop.screen.active_window()
+        return active and active.title
 
     def _program(self, name):
         return str(self._options.build / "demo" / name)
@@ -95,6 +118,7 @@ STEPS = (
     ("the login request carries param and xppKey", Tour.login_request),
     ("pages are asked for with the client's user agent", Tour.user_agent),
     ("a typed name and password sign in", Tour.sign_in),
+    ("a document is saved, and its alert closed", Tour.document),
     ("SIGTERM ends the client in order", Tour.end),
 )
 
