@@ -44,7 +44,7 @@ std::optional<std::string> deciphered(const EVP_CIPHER* cipher, std::string_view
         EVP_DecryptFinal_ex(context.get(), out + written, &last) != 1) {
         return std::nullopt;
     }
-    output.resize(static_cast<std::size_t>(written + last));
+    output.resize(static_cast<std::size_t>(written) + static_cast<std::size_t>(last));
     const bool isDescription =
         output.starts_with("[{") && g_utf8_validate(output.data(), static_cast<gssize>(output.size()), nullptr);
     return isDescription ? std::optional(output) : std::nullopt;

@@ -13,7 +13,9 @@
 #include "platform/KeyMonitors.h"
 #include "platform/MainQueue.h"
 #include "platform/NotificationCenter.h"
+#include "platform/RandomNumbers.h"
 #include "platform/RunningApplications.h"
+#include "platform/Screens.h"
 #include "platform/Timers.h"
 #include "platform/UrlSession.h"
 #include "platform/WebsiteDataStore.h"
@@ -32,6 +34,8 @@ struct Ports {
     Timers& timers;
     Console& console;
     const Clock& clock;
+    RandomNumbers& random;
+    const Screens& screens;
     Alerts& alerts;
     Workspace& workspace;
     RunningApplications& runningApplications;
@@ -57,6 +61,8 @@ template <class Desktop>
             .timers = desktop.timers,
             .console = desktop.console,
             .clock = desktop.clock,
+            .random = desktop.random,
+            .screens = desktop.screens,
             .alerts = desktop.alerts,
             .workspace = desktop.workspace,
             .runningApplications = desktop.runningApplications,

@@ -83,13 +83,22 @@ std::unique_ptr<View> VistroApp::makeContentView()
 
 std::unique_ptr<View> VistroApp::makeSessionScreen(const std::string& link)
 {
-    return std::make_unique<WebView>(
-        link, WebView::Ports{.browserViews = ports_.browserViews,
-                             .windowControl = windowControl_,
-                             .browserServices = {.coordinator = {.console = ports_.console,
-                                                                 .loginParameter = loginParameter_,
-                                                                 .pdfDownload = pdfDownload_},
-                                                 .pageScripts = pageScripts_}});
+    const WebView::Ports ports{.browserViews = ports_.browserViews,
+                               .windowControl = windowControl_,
+                               .browserServices = {.coordinator = {.console = ports_.console,
+                                                                   .loginParameter = loginParameter_,
+                                                                   .pdfDownload = pdfDownload_},
+                                                   .pageScripts = pageScripts_},
+                               .alerts = ports_.alerts,
+                               .application = ports_.application,
+                               .bundle = ports_.bundle,
+                               .pageValues = pageValues_,
+                               .watermark = {.timers = ports_.timers,
+                                             .mainQueue = ports_.mainQueue,
+                                             .screens = ports_.screens,
+                                             .random = ports_.random,
+                                             .console = ports_.console}};
+    return std::make_unique<WebView>(link, endpoints_.mainPageURL, ports);
 }
 
 } // namespace orken

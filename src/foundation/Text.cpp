@@ -1,5 +1,6 @@
 #include "foundation/Text.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -130,6 +131,25 @@ std::string trimmed(std::string_view text)
         text.remove_suffix(last.length);
     }
     return std::string(text);
+}
+
+std::string shortenedLine(std::string_view text, std::size_t characters)
+{
+    std::string line;
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < text.size(); ++count) {
+        if (count == characters) {
+            return line + "…";
+        }
+        const Scalar scalar = decode(text, i);
+        const bool isLineEnd = (scalar.value >= 0x0A && scalar.value <= 0x0D) || scalar.value == 0x85 ||
+                               scalar.value == 0x2028 || scalar.value == 0x2029 || scalar.value == 0;
+        // A byte that is no UTF-8 stands for itself.
+        const std::size_t length = std::max<std::size_t>(scalar.length, 1);
+        line += scalar.length > 0 && isLineEnd ? std::string_view(" ") : text.substr(i, length);
+        i += length;
+    }
+    return line;
 }
 
 std::string debugDescription(std::string_view text)

@@ -16,6 +16,9 @@ namespace orken {
 /// U+000D and U+0085. Bytes that are not UTF-8 count as something else than white space.
 [[nodiscard]] std::string trimmed(std::string_view text);
 
+/// The text on one line: line ends and NUL become blanks, and what is longer than so many characters ends in "…".
+[[nodiscard]] std::string shortenedLine(std::string_view text, std::size_t characters);
+
 /// The text between double quotes with quotes, backslashes and control characters escaped.
 [[nodiscard]] std::string debugDescription(std::string_view text);
 

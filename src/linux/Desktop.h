@@ -15,6 +15,7 @@
 #include "linux/services/MainLoopQueue.h"
 #include "linux/services/StandardConsole.h"
 #include "linux/services/SystemClock.h"
+#include "linux/services/SystemRandom.h"
 #include "linux/x11/X11Applications.h"
 #include "platform/AlertStack.h"
 #include "platform/KeyMonitors.h"
@@ -56,6 +57,7 @@ public:
     LoopTimers timers{alertStack_};
     StandardConsole console;
     SystemClock clock;
+    SystemRandom random;
     BuiltBundleInfo bundle;
     LocalFiles files;
     DesktopWorkspace workspace;

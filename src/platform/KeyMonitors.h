@@ -1,6 +1,6 @@
 #pragma once
 
-#include <cstddef>
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -38,14 +38,10 @@ public:
     /// In the order in which they were added; the first that swallows is the last that is asked.
     [[nodiscard]] KeyHandling handle(const KeyEvent& event) const
     {
-        // By index and with a hold: a monitor may add another one.
-        for (std::size_t i = 0; i < monitors_.size(); ++i) {
-            const auto monitor = monitors_[i];
-            if ((*monitor)(event) == KeyHandling::swallow) {
-                return KeyHandling::swallow;
-            }
-        }
-        return KeyHandling::passOn;
+        // Over a copy: a monitor may add another one.
+        const auto present = monitors_;
+        const auto swallows = [&event](const auto& monitor) { return (*monitor)(event) == KeyHandling::swallow; };
+        return std::any_of(present.begin(), present.end(), swallows) ? KeyHandling::swallow : KeyHandling::passOn;
     }
 
 private:

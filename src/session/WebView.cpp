@@ -1,25 +1,126 @@
 #include "session/WebView.h"
 
+#include "foundation/Text.h"
+
+#include <algorithm>
+
 namespace orken {
 
-WebView::WebView(const std::string& link, const Ports& ports)
-    : ports_(ports), model_(std::make_shared<WebViewModel>(link)), isFullScreen_(makeState(false))
+namespace {
+
+constexpr std::int64_t kSlowLoadThreshold = 301;
+constexpr std::size_t kLongestWatermark = 200;
+constexpr Shadow kTextShadow{.color = Color::black(), .radius = 1, .x = 1, .y = 1};
+
+bool contains(const std::string& text, const char* part)
+{
+    return text.find(part) != std::string::npos;
+}
+
+} // namespace
+
+WebView::WebView(const std::string& link, std::string kMainPageURL, const Ports& ports)
+    : ports_(ports), kMainPageURL_(std::move(kMainPageURL)), model_(std::make_shared<WebViewModel>(link)),
+      position_(makeState(Point{})), second_(makeState(std::int64_t{0})), isFullScreen_(makeState(false)),
+      loadCounter_(std::make_shared<LoadCounter>(model_, second_, ports.watermark.timers, ports.watermark.mainQueue)),
+      watermark_(std::make_shared<WatermarkMovement>(position_, ports.pageValues, ports.watermark))
 {
     observe(*model_);
 }
 
 Element WebView::body()
 {
+    return ZStack({browserLayer(), cornerLayer(), waitingOverlay(), loginExitLayer(), watermarkLayer()})
+        .onAppear([this] { loadCounter_->startLoadTimer(); });
+}
+
+Element WebView::browserLayer()
+{
     // The factory runs once: a redraw must never bring a new browser view.
     auto makeBrowser = [this] {
         return std::make_unique<SwiftUIWebView>(model_, makeState(false), ports_.browserViews.make(),
                                                 ports_.browserServices);
     };
-    return ZStack({
-        Representable<SwiftUIWebView>(makeBrowser).disabled(!model_->didFinishLoading.get()).onAppear([this] {
-            setUpWindow();
+    return Representable<SwiftUIWebView>(makeBrowser).disabled(!model_->didFinishLoading.get()).onAppear([this] {
+        setUpWindow();
+    });
+}
+
+Element WebView::cornerLayer()
+{
+    const std::string version = infoText(ports_.bundle, kBundleShortVersionKey).value_or("alınamadı");
+    auto exitLabel = Symbol("xmark.circle.fill", "Çıkış")
+                         .frame({.width = 30, .height = 30})
+                         .foreground(Color::systemRed())
+                         .opacity(0.7);
+    return VStack({
+        HStack({Spacer(), Button(std::move(exitLabel), [this] { confirmExit(); }).padding()}),
+        Spacer(),
+        HStack({
+            Spacer(),
+            Text("Uygulama sürümü " + version)
+                .foreground(Color::systemRed())
+                .font(Font::caption)
+                .shadow(kTextShadow)
+                .padding(Edge::leading),
         }),
     });
+}
+
+Element WebView::waitingOverlay()
+{
+    const bool isSlow = second_.get() >= kSlowLoadThreshold;
+    return VStack({When(!isSlow, [] { return Text("Yükleniyor...").font(Font::system36); }),
+                   When(isSlow, [this] { return slowLoadMessage(); })},
+                  0)
+        .foreground(Color::white())
+        .frame({.fill = true})
+        .background({.red = 0, .green = 0, .blue = 0, .alpha = 0.8})
+        .opacity(model_->didFinishLoading.get() ? 0 : 1);
+}
+
+Element WebView::slowLoadMessage()
+{
+    auto label =
+        Text("ANASAYFAYI AÇ").foreground(Color::black()).frame({.width = 200, .height = 50}).background(Color::gray());
+    return VStack(
+        {Text("SAYFANIN YÜKLENMESİ\nBEKLENENDEN UZUN SÜRDÜ").font(Font::largeTitle).padding(),
+         Text("Beklemeye devam edebilir ya da aşağıdaki butona basarak anasayfaya dönebilirsiniz.").font(Font::caption),
+         Button(std::move(label), [this] { openMainPage(); }).padding()},
+        0);
+}
+
+Element WebView::loginExitLayer()
+{
+    const bool isShown = model_->didFinishLoading.get() && contains(model_->link.get(), "Login");
+    auto atBottomLeading = [this](Size size) {
+        // Before the first layout there is no width yet.
+        auto label = Text("Çıkış Yap")
+                         .foreground(Color::black())
+                         .font(Font::largeTitle)
+                         .frame({.width = std::max(size.width / 4 - 40, 0.0), .height = 60})
+                         .background(Color::gray());
+        auto button = Button(std::move(label), [this] { ports_.application.terminate(); }).padding(20);
+        return VStack({Spacer(), HStack({std::move(button), Spacer()})});
+    };
+    return When(isShown, [&] { return GeometryReader(atBottomLeading); });
+}
+
+Element WebView::watermarkLayer()
+{
+    auto text = [this] {
+        return Text(shortenedLine(ports_.pageValues.decryptedHashValue.value_or(""), kLongestWatermark))
+            .foreground(Color::white())
+            .font(Font::largeTitle)
+            .shadow(kTextShadow)
+            .padding()
+            .background(Color::black(), 10)
+            .position(position_.get())
+            .onAppear([this] {
+                ports_.watermark.mainQueue.async([movement = watermark_] { movement->startTextMovement(); });
+            });
+    };
+    return When(contains(model_->link.get(), "playlist"), text);
 }
 
 void WebView::setUpWindow()
@@ -28,6 +129,24 @@ void WebView::setUpWindow()
     ports_.windowControl.closeOtherWindows();
     ports_.windowControl.observeFullScreenChanges(isFullScreen_);
     ports_.windowControl.installKeyMonitor();
+}
+
+void WebView::openMainPage()
+{
+    if (model_->webView) {
+        model_->webView->load({.url = kMainPageURL_});
+    }
+}
+
+void WebView::confirmExit()
+{
+    const int answer = ports_.alerts.runModal({.messageText = "Çıkış yapmak istediğinize emin misiniz?",
+                                               .informativeText = "",
+                                               .style = AlertStyle::warning,
+                                               .buttons = {"Evet", "Hayır"}});
+    if (answer == kAlertFirstButtonReturn) {
+        ports_.application.terminate();
+    }
 }
 
 } // namespace orken

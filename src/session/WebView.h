@@ -1,35 +1,65 @@
 #pragma once
 
 #include "browser/SwiftUIWebView.h"
+#include "platform/Alerts.h"
+#include "platform/Application.h"
+#include "platform/BundleInfo.h"
+#include "session/LoadCounter.h"
+#include "session/WatermarkMovement.h"
 #include "session/WebViewModel.h"
 #include "session/WindowControl.h"
 #include "view/View.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
 namespace orken {
 
-/// The screen of one web session, filling its window. Main thread only.
+/// The screen of one web session, filling its window: the browser, and over it the exit button with the version, the
+/// waiting overlay until the first page has finished, the login page's own exit button, and the watermark over video
+/// pages. Main thread only.
 class WebView final : public View {
 public:
     struct Ports {
         BrowserViews& browserViews;
         WindowControl& windowControl;
         SwiftUIWebView::Services browserServices;
+        Alerts& alerts;
+        Application& application;
+        const BundleInfo& bundle;
+        const PageValues& pageValues;
+        WatermarkMovement::Ports watermark;
     };
 
-    WebView(const std::string& link, const Ports& ports);
+    WebView(const std::string& link, std::string kMainPageURL, const Ports& ports);
 
     [[nodiscard]] Element body() override;
 
+    /// Asks, and ends the application after an agreement.
+    void confirmExit();
+
 private:
+    [[nodiscard]] Element browserLayer();
+    [[nodiscard]] Element cornerLayer();
+    [[nodiscard]] Element waitingOverlay();
+    [[nodiscard]] Element slowLoadMessage();
+    [[nodiscard]] Element loginExitLayer();
+    [[nodiscard]] Element watermarkLayer();
     void setUpWindow();
+    void openMainPage();
 
     Ports ports_;
+    std::string kMainPageURL_;
     std::shared_ptr<WebViewModel> model_;
+    /// Centre of the watermark.
+    State<Point> position_;
+    /// Seconds for which the first page has not finished.
+    State<std::int64_t> second_;
     /// Mirror of the window's state.
     State<bool> isFullScreen_;
+    std::shared_ptr<LoadCounter> loadCounter_;
+    std::shared_ptr<WatermarkMovement> watermark_;
 };
 
 } // namespace orken

@@ -93,13 +93,14 @@ Element Element::frame(Frame frame) &&
     return std::move(*this);
 }
 
-Element Element::background(Color color) &&
+Element Element::background(Color color, double cornerRadius) &&
 {
     moveSpaceInside();
     if (modifiers_.background) {
         wrap();
     }
     modifiers_.background = color;
+    modifiers_.cornerRadius = cornerRadius;
     return std::move(*this);
 }
 
@@ -120,6 +121,22 @@ Element Element::foreground(Color color) &&
             modifiers.foreground = color;
         }
     });
+    return std::move(*this);
+}
+
+Element Element::shadow(Shadow shadow) &&
+{
+    changeTexts([shadow](Modifiers& modifiers) {
+        if (!modifiers.shadow) {
+            modifiers.shadow = shadow;
+        }
+    });
+    return std::move(*this);
+}
+
+Element Element::position(Point centre) &&
+{
+    modifiers_.position = centre;
     return std::move(*this);
 }
 
@@ -184,6 +201,11 @@ bool sameAppearance(const Element& left, const Element& right)
 Element Text(std::string text)
 {
     return Element(TextContent{.text = std::move(text)});
+}
+
+Element Symbol(std::string name, std::string label)
+{
+    return Element(SymbolContent{.name = std::move(name), .label = std::move(label)});
 }
 
 Element VStack(std::vector<Element> children, double spacing)

@@ -30,6 +30,14 @@ struct TextContent {
     bool operator==(const TextContent&) const = default;
 };
 
+/// A picture of the platform's symbol set that fills its frame, by its name there.
+struct SymbolContent {
+    std::string name;
+    /// What a screen reader says.
+    std::string label;
+    bool operator==(const SymbolContent&) const = default;
+};
+
 enum class Axis { vertical, horizontal };
 
 struct StackContent {
@@ -66,7 +74,7 @@ struct RepresentableContent {
 };
 
 using Content = std::variant<EmptyContent, TextContent, StackContent, LayersContent, SpacerContent, ButtonContent,
-                             NestedContent, RepresentableContent>;
+                             NestedContent, RepresentableContent, SymbolContent>;
 
 /// Fixed and smallest sizes in points; `fill` takes all the room that is offered. With a smallest size alone the
 /// element is as eager for room as its content.
@@ -99,10 +107,15 @@ struct AlertContent {
 struct Modifiers {
     Font font = Font::body;
     std::optional<Color> foreground;
+    std::optional<Shadow> shadow;
     Insets innerPadding;
     std::optional<Frame> frame;
     std::optional<Color> background;
+    /// Of the background's corners, in points.
+    double cornerRadius = 0;
     Insets padding;
+    /// Of the centre, in the layers around; without one it stands in the middle.
+    std::optional<Point> position;
     double opacity = 1;
     bool enabled = true;
     std::optional<AlertContent> alert;
@@ -161,10 +174,14 @@ public:
     [[nodiscard]] Element padding(double length = kDefaultPadding) &&;
     [[nodiscard]] Element padding(Edge edge, double length = kDefaultPadding) &&;
     [[nodiscard]] Element frame(Frame frame) &&;
-    [[nodiscard]] Element background(Color color) &&;
+    [[nodiscard]] Element background(Color color, double cornerRadius = 0) &&;
     /// Fonts and colours hold for every text inside that has none of its own.
     [[nodiscard]] Element font(Font font) &&;
     [[nodiscard]] Element foreground(Color color) &&;
+    /// Holds for every text inside that has none of its own.
+    [[nodiscard]] Element shadow(Shadow shadow) &&;
+    /// Takes no room among its siblings, and stands with its centre there in the layers around it.
+    [[nodiscard]] Element position(Point centre) &&;
     [[nodiscard]] Element opacity(double opacity) &&;
     [[nodiscard]] Element disabled(bool disabled) &&;
     [[nodiscard]] Element key(std::string key) &&;
@@ -217,6 +234,7 @@ private:
 [[nodiscard]] bool sameAppearance(const Element& left, const Element& right);
 
 [[nodiscard]] Element Text(std::string text);
+[[nodiscard]] Element Symbol(std::string name, std::string label);
 [[nodiscard]] Element VStack(std::vector<Element> children, double spacing = kDefaultSpacing);
 [[nodiscard]] Element HStack(std::vector<Element> children, double spacing = kDefaultSpacing);
 [[nodiscard]] Element ZStack(std::vector<Element> children);

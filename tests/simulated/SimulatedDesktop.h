@@ -31,6 +31,8 @@ public:
     SimulatedAlerts alerts{loop, windows, application, journal};
     SimulatedConsole console{journal};
     SimulatedClock clock;
+    SimulatedRandom random;
+    SimulatedScreens screens;
     SimulatedWorkspace workspace{journal};
     SimulatedApplications runningApplications{journal};
     SimulatedHardware hardware;

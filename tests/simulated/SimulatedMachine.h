@@ -5,9 +5,12 @@
 #include "platform/Console.h"
 #include "platform/CookieStorage.h"
 #include "platform/HardwareRegistry.h"
+#include "platform/RandomNumbers.h"
 #include "platform/RunningApplications.h"
+#include "platform/Screens.h"
 #include "platform/Workspace.h"
 #include "simulated/Journal.h"
+#include "simulated/Require.h"
 
 #include <map>
 #include <optional>
@@ -32,6 +35,26 @@ public:
 
     /// 2026-11-16 21:03:25.123 UTC.
     std::chrono::system_clock::time_point time{std::chrono::milliseconds{1794863005123}};
+};
+
+/// Answers the place in the range that the test has chosen.
+class SimulatedRandom final : public RandomNumbers {
+public:
+    [[nodiscard]] double between(double low, double high) override
+    {
+        require(low <= high, "an empty range of random numbers");
+        return low + part * (high - low);
+    }
+
+    /// From 0 to 1.
+    double part = 0;
+};
+
+class SimulatedScreens final : public Screens {
+public:
+    [[nodiscard]] std::optional<Rect> mainScreenFrame() const override { return frame; }
+
+    std::optional<Rect> frame = Rect{.width = 1920, .height = 1080};
 };
 
 class SimulatedWorkspace final : public Workspace {

@@ -119,7 +119,10 @@ std::optional<NodeId> StubViewHost::findIf(const Test& test) const
 
 std::optional<NodeId> StubViewHost::find(const std::string& text) const
 {
-    return findIf([&](const Node& node) { return node.content == Content(TextContent{.text = text}); });
+    return findIf([&](const Node& node) {
+        const auto* symbol = std::get_if<SymbolContent>(&node.content);
+        return node.content == Content(TextContent{.text = text}) || (symbol && symbol->label == text);
+    });
 }
 
 NodeId StubViewHost::idOf(const std::string& text) const

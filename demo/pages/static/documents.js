@@ -23,6 +23,9 @@ const ways = {
     },
     open: link => {
         const opened = window.open(link.href);
+        if (!opened) {
+            document.getElementById('handed').textContent = 'Pencere açılmadı';
+        }
         report('/demo/seen', { what: 'open', result: opened ? 'window' : 'null' });
     },
     revoked: link => {

@@ -1,12 +1,14 @@
 #include "linux/gtk/LayerBox.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace {
 
 struct LayerBoxState {
     std::optional<GdkRGBA> background;
+    float cornerRadius = 0;
     std::function<void(orken::Size)> onResize;
     orken::Size size;
     int minimumWidth = 0;
@@ -24,6 +26,13 @@ struct OrkenLayerBoxClass {
 };
 
 G_DEFINE_TYPE(OrkenLayerBox, orken_layer_box, GTK_TYPE_WIDGET)
+
+constexpr const char* kPosition = "orken-position";
+
+const orken::Point* positionOf(GtkWidget* child)
+{
+    return static_cast<const orken::Point*>(g_object_get_data(G_OBJECT(child), kPosition));
+}
 
 OrkenLayerBox* asLayerBox(gpointer instance)
 {
@@ -77,7 +86,7 @@ void measure(GtkWidget* widget, GtkOrientation orientation, int forSize, int* mi
     *minimumBaseline = -1;
     *naturalBaseline = -1;
     forEachChild(widget, [&](GtkWidget* child) {
-        if (!gtk_widget_should_layout(child)) {
+        if (!gtk_widget_should_layout(child) || positionOf(child)) {
             return;
         }
         int childMinimum = 0;
@@ -88,10 +97,24 @@ void measure(GtkWidget* widget, GtkOrientation orientation, int forSize, int* mi
     });
 }
 
+void allocateAt(GtkWidget* child, const orken::Point& centre)
+{
+    GtkRequisition natural{};
+    gtk_widget_get_preferred_size(child, nullptr, &natural);
+    const graphene_point_t corner{static_cast<float>(std::round(centre.x - natural.width / 2.0)),
+                                  static_cast<float>(std::round(centre.y - natural.height / 2.0))};
+    gtk_widget_allocate(child, natural.width, natural.height, -1, gsk_transform_translate(nullptr, &corner));
+}
+
 void allocate(GtkWidget* widget, int width, int height, int baseline)
 {
     forEachChild(widget, [&](GtkWidget* child) {
-        if (gtk_widget_should_layout(child)) {
+        if (!gtk_widget_should_layout(child)) {
+            return;
+        }
+        if (const orken::Point* position = positionOf(child)) {
+            allocateAt(child, *position);
+        } else {
             gtk_widget_allocate(child, width, height, baseline, nullptr);
         }
     });
@@ -103,15 +126,32 @@ void allocate(GtkWidget* widget, int width, int height, int baseline)
     }
 }
 
+void drawBackground(GtkWidget* widget, const LayerBoxState& state, GtkSnapshot* snapshot)
+{
+    const graphene_rect_t bounds{
+        .origin = {0, 0},
+        .size = {static_cast<float>(gtk_widget_get_width(widget)), static_cast<float>(gtk_widget_get_height(widget))}};
+    GskRoundedRect rounded;
+    gsk_rounded_rect_init_from_rect(&rounded, &bounds, state.cornerRadius);
+    gtk_snapshot_push_rounded_clip(snapshot, &rounded);
+    gtk_snapshot_append_color(snapshot, &*state.background, &bounds);
+    gtk_snapshot_pop(snapshot);
+}
+
 void snapshot(GtkWidget* widget, GtkSnapshot* snapshot)
 {
-    if (const auto& background = asLayerBox(widget)->state->background) {
-        const graphene_rect_t bounds{.origin = {0, 0},
-                                     .size = {static_cast<float>(gtk_widget_get_width(widget)),
-                                              static_cast<float>(gtk_widget_get_height(widget))}};
-        gtk_snapshot_append_color(snapshot, &*background, &bounds);
+    const LayerBoxState& state = *asLayerBox(widget)->state;
+    if (state.background) {
+        drawBackground(widget, state, snapshot);
     }
     forEachChild(widget, [&](GtkWidget* child) { gtk_widget_snapshot_child(widget, child, snapshot); });
+}
+
+/// Only what is drawn can be hit.
+gboolean contains(GtkWidget* widget, double x, double y)
+{
+    return asLayerBox(widget)->state->background &&
+           GTK_WIDGET_CLASS(orken_layer_box_parent_class)->contains(widget, x, y);
 }
 
 GtkSizeRequestMode requestMode(GtkWidget* widget)
@@ -161,6 +201,7 @@ void orken_layer_box_class_init(OrkenLayerBoxClass* layerBoxClass)
     widgetClass->measure = measure;
     widgetClass->size_allocate = allocate;
     widgetClass->snapshot = snapshot;
+    widgetClass->contains = contains;
     widgetClass->get_request_mode = requestMode;
     widgetClass->compute_expand = computeExpand;
 }
@@ -179,10 +220,25 @@ GtkWidget* layerBoxNew()
     return GTK_WIDGET(g_object_new(orken_layer_box_get_type(), nullptr));
 }
 
-void layerBoxSetBackground(GtkWidget* box, const std::optional<GdkRGBA>& color)
+void layerBoxSetBackground(GtkWidget* box, const std::optional<GdkRGBA>& color, float cornerRadius)
 {
     asLayerBox(box)->state->background = color;
+    asLayerBox(box)->state->cornerRadius = cornerRadius;
     gtk_widget_queue_draw(box);
+}
+
+void layerBoxSetPosition(GtkWidget* child, const std::optional<Point>& centre)
+{
+    const Point* before = positionOf(child);
+    if (before ? centre == *before : !centre) {
+        return;
+    }
+    auto destroy = +[](gpointer point) { delete static_cast<Point*>(point); };
+    g_object_set_data_full(G_OBJECT(child), kPosition, centre ? new Point(*centre) : nullptr, destroy);
+    if (GtkWidget* parent = gtk_widget_get_parent(child)) {
+        // Moving it changes nobody's size.
+        before&& centre ? gtk_widget_queue_allocate(parent) : gtk_widget_queue_resize(parent);
+    }
 }
 
 void layerBoxOnResize(GtkWidget* box, std::function<void(Size)> callback)

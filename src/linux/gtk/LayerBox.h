@@ -13,7 +13,11 @@ namespace orken::desktop {
 /// only.
 [[nodiscard]] GtkWidget* layerBoxNew();
 
-void layerBoxSetBackground(GtkWidget* box, const std::optional<GdkRGBA>& color);
+/// A box with a background takes clicks; without one they go through it to what lies below.
+void layerBoxSetBackground(GtkWidget* box, const std::optional<GdkRGBA>& color, float cornerRadius);
+
+/// Where the centre of a child stands in the box around it, in logical pixels; absent: laid out by its alignment.
+void layerBoxSetPosition(GtkWidget* child, const std::optional<Point>& centre);
 
 /// Called with the new size whenever the layout has changed it; from inside the layout, so it may only note it.
 void layerBoxOnResize(GtkWidget* box, std::function<void(Size)> callback);

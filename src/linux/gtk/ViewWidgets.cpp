@@ -2,6 +2,9 @@
 
 #include "linux/WidgetView.h"
 #include "linux/gtk/LayerBox.h"
+#include "linux/gtk/StackBox.h"
+#include "linux/gtk/SymbolWidget.h"
+#include "linux/gtk/TextShadow.h"
 
 #include <cmath>
 
@@ -33,9 +36,11 @@ std::optional<int> fontPoints(Font font)
     case Font::caption:
         return 10;
     case Font::largeTitle:
+        return 26;
+    case Font::system36:
         break;
     }
-    return 26;
+    return 36;
 }
 
 /// The first text inside, which is what a screen reader says for a button.
@@ -43,6 +48,9 @@ std::string firstText(const RenderNode& node)
 {
     if (const auto* text = std::get_if<TextContent>(&node.element.content())) {
         return text->text;
+    }
+    if (const auto* symbol = std::get_if<SymbolContent>(&node.element.content())) {
+        return symbol->label;
     }
     for (const RenderNodePtr& child : node.children) {
         if (std::string text = firstText(*child); !text.empty()) {
@@ -103,9 +111,12 @@ GtkWidget* ViewWidgets::makeContent(const RenderNode& node, ViewEvents& events)
         gtk_label_set_justify(GTK_LABEL(label), GTK_JUSTIFY_CENTER);
         return label;
     }
+    if (const auto* symbol = std::get_if<SymbolContent>(&content_)) {
+        return symbolNew(symbol->name);
+    }
     if (const auto* stack = std::get_if<StackContent>(&content_)) {
         const bool vertical = stack->axis == Axis::vertical;
-        return gtk_box_new(vertical ? GTK_ORIENTATION_VERTICAL : GTK_ORIENTATION_HORIZONTAL, pixels(stack->spacing));
+        return stackBoxNew(vertical ? GTK_ORIENTATION_VERTICAL : GTK_ORIENTATION_HORIZONTAL, pixels(stack->spacing));
     }
     if (std::holds_alternative<ButtonContent>(content_)) {
         GtkWidget* button = makeButton(node);
@@ -140,6 +151,9 @@ void ViewWidgets::apply(const Element& element)
         gtk_box_set_spacing(GTK_BOX(inner_), pixels(stack->spacing));
     }
     applyText(element);
+    if (std::holds_alternative<SymbolContent>(content_)) {
+        symbolSetColor(inner_, rgba(modifiers.foreground.value_or(Color::black())));
+    }
     GtkWidget* outer = outer_.get();
     if (modifiers.needsBox()) {
         applyFrame(modifiers);
@@ -149,8 +163,12 @@ void ViewWidgets::apply(const Element& element)
     gtk_widget_set_margin_start(outer, pixels(modifiers.padding.leading));
     gtk_widget_set_margin_end(outer, pixels(modifiers.padding.trailing));
     gtk_widget_set_opacity(outer, modifiers.opacity);
-    // What cannot be seen takes no clicks.
+    // What cannot be seen takes no clicks, and neither does what is only drawn.
     gtk_widget_set_can_target(outer, modifiers.opacity > 0);
+    if (std::holds_alternative<TextContent>(content_) || std::holds_alternative<SymbolContent>(content_)) {
+        gtk_widget_set_can_target(inner_, FALSE);
+    }
+    layerBoxSetPosition(outer, modifiers.position);
     gtk_widget_set_sensitive(outer, modifiers.enabled);
 }
 
@@ -179,13 +197,15 @@ void ViewWidgets::applyText(const Element& element)
         pango_attr_list_insert(attributes, pango_attr_foreground_alpha_new(channel(color.alpha)));
     }
     gtk_label_set_attributes(GTK_LABEL(inner_), attributes);
+    applyTextShadow(inner_, modifiers.shadow);
     pango_attr_list_unref(attributes);
 }
 
 void ViewWidgets::applyFrame(const Modifiers& modifiers)
 {
     GtkWidget* outer = outer_.get();
-    layerBoxSetBackground(outer, modifiers.background ? std::optional(rgba(*modifiers.background)) : std::nullopt);
+    layerBoxSetBackground(outer, modifiers.background ? std::optional(rgba(*modifiers.background)) : std::nullopt,
+                          static_cast<float>(modifiers.cornerRadius));
     gtk_widget_set_margin_top(inner_, pixels(modifiers.innerPadding.top));
     gtk_widget_set_margin_bottom(inner_, pixels(modifiers.innerPadding.bottom));
     gtk_widget_set_margin_start(inner_, pixels(modifiers.innerPadding.leading));
