@@ -54,7 +54,7 @@ class Road(ClientCase):
         self.assertEqual([line for line in lines[:before] if line not in gate], house)
         self.assertEqual([line for line in lines if line in gate], gate)
         lines = [line for line in lines[before:] if line not in gate]
-        own = ("json: ", "JavaScript execution failed: ")
+        own = ("json: ", "JavaScript execution failed: ", "Gelen url ", "Host: ", "Path: ", "Query Items: ", "Hash query")
         others = {line for line in lines[1:] if not line.startswith(own)}
         self.assertEqual(others, {"FullScreen observeFullScreenChanges ", login, "Gelen data tipi https"})
         self.assertLess(lines.index("FullScreen observeFullScreenChanges "), lines.index(login))

@@ -15,8 +15,8 @@ public:
     {
         std::random_device device;
         // The upper end belongs to the range, too.
-        return std::uniform_real_distribution<double>(
-            low, std::nextafter(high, std::numeric_limits<double>::max()))(device);
+        return std::uniform_real_distribution<double>(low,
+                                                      std::nextafter(high, std::numeric_limits<double>::max()))(device);
     }
 };
 
