@@ -2,6 +2,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+
 namespace orken {
 
 namespace {
@@ -13,6 +15,17 @@ constexpr int kWrongShape = 1;
 PlatformError jsonError(int code, std::string_view reason)
 {
     return platformError("json", code, "", reason);
+}
+
+/// The library quotes what it has read last, whatever bytes and however many those are.
+PlatformError parseError(const Json::exception& error)
+{
+    constexpr std::size_t kLongestReason = 200;
+    std::string reason(error.what());
+    reason.resize(std::min(reason.size(), kLongestReason));
+    std::replace_if(
+        reason.begin(), reason.end(), [](char c) { return c < ' ' || c > '~'; }, '?');
+    return jsonError(error.id, reason);
 }
 
 } // namespace
@@ -33,7 +46,7 @@ Outcome<std::string> jsonTextMember(std::string_view document, std::string_view 
         }
         return member->get<std::string>();
     } catch (const Json::exception& error) {
-        return jsonError(error.id, error.what());
+        return parseError(error);
     }
 }
 
@@ -56,7 +69,7 @@ Outcome<std::optional<JsonNumbers>> jsonNumbers(std::string_view document)
         }
         return std::optional(std::move(numbers));
     } catch (const Json::exception& error) {
-        return jsonError(error.id, error.what());
+        return parseError(error);
     }
 }
 

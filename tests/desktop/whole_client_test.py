@@ -98,6 +98,21 @@ class Road(ClientCase):
         self.desktop.screen.click(*quit_button.centre)
         self.assert_ends(next_client)
 
+    def test_both_exit_buttons_end_the_session(self):
+        provider = self.provider()
+        client, _ = self.open_login_page(provider)
+        self.desktop.screen.click(self.desktop.screen.width - 31, 31)
+        question = "Çıkış yapmak istediğinize emin misiniz?"
+        client.wait_for("the question", lambda: self.active_title() == question)
+        self.desktop.screen.key("Return")
+        self.assert_ends(client)
+
+        client, _ = self.open_login_page(provider)
+        find = self.desktop.screen.image
+        button = client.wait_for("the page's exit button", lambda: find().find_rectangle("#8e8e93", 4, 280, 60))
+        self.desktop.screen.click(*button.centre)
+        self.assert_ends(client)
+
     def test_closing_the_start_window_is_quitting(self):
         client = self.client(self.provider())
         client.wait_for_start_window()
