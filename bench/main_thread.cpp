@@ -1,5 +1,6 @@
 // How long the main thread is held up by what runs beside the user: one silent round over other applications with 50
-// windows, and the version gate's call. Run on a virtual desktop. Prints one JSON object, times in milliseconds.
+// windows (or as many as the argument says), and the version gate's call. Run on a virtual desktop. Prints one JSON
+// object, times in milliseconds.
 
 #include "app/OtherApplications.h"
 #include "app/VersionGate.h"
@@ -21,15 +22,15 @@
 
 namespace {
 
-constexpr int kWindows = 50;
+constexpr std::size_t kUsualWindows = 50;
 constexpr int kRounds = 50;
 
 /// Another process whose windows stay: it never reads what it is sent.
-void showWindows()
+void showWindows(std::size_t count)
 {
     xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
     const xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
-    for (int i = 0; i < kWindows; ++i) {
+    for (std::size_t i = 0; i < count; ++i) {
         const xcb_window_t window = xcb_generate_id(connection);
         xcb_create_window(connection, XCB_COPY_FROM_PARENT, window, screen->root, 0, 0, 100, 100, 0,
                           XCB_WINDOW_CLASS_INPUT_OUTPUT, screen->root_visual, 0, nullptr);
@@ -51,11 +52,12 @@ double milliseconds(const std::function<void()>& work)
 
 } // namespace
 
-int main()
+int main(int argumentCount, char** arguments)
 {
+    const std::size_t windows = argumentCount > 1 ? std::strtoul(arguments[1], nullptr, 10) : kUsualWindows;
     const pid_t other = fork();
     if (other == 0) {
-        showWindows();
+        showWindows(windows);
         return 0;
     }
     gtk_init();
@@ -64,7 +66,7 @@ int main()
         {desktop.runningApplications, desktop.alerts, desktop.application, desktop.console}, "com.orken.bench");
 
     double first = 0;
-    for (int tries = 0; tries < 200 && desktop.runningApplications.all().size() < kWindows; ++tries) {
+    for (int tries = 0; tries < 200 && desktop.runningApplications.all().size() < windows; ++tries) {
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
     }
     const std::size_t listed = desktop.runningApplications.all().size();

@@ -11,7 +11,6 @@ namespace orken {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 const std::string kFolder = "/home/student/Library/Saved Application State/com.orken.test.savedState";
 const std::string kFile = kFolder + "/restorecount.plist";

@@ -40,7 +40,7 @@ TEST(VersionGate, decidesByWhatTheProviderRequires)
         std::string message;
     };
 
-    const auto requires_ = [](const std::string& version) {
+    const auto requiring = [](const std::string& version) {
         return simulated::Route{.body = "{\"macVersion\": \"" + version + "\", \"other\": 1}"};
     };
     const auto compared = [](const std::string& current, const std::string& required) {
@@ -52,18 +52,18 @@ TEST(VersionGate, decidesByWhatTheProviderRequires)
     const std::string outdated = "print Uygulama güncelleme gerekli.";
     const std::string null = "print Gelen veri null";
     const Case cases[] = {
-        {"1.10", requires_("1.9"), {compared("1.10", "1.9"), read("1.9")}, ""},
-        {"1.2", requires_("1.2"), {compared("1.2", "1.2"), read("1.2")}, ""},
+        {"1.10", requiring("1.9"), {compared("1.10", "1.9"), read("1.9")}, ""},
+        {"1.2", requiring("1.2"), {compared("1.2", "1.2"), read("1.2")}, ""},
         {"1.9",
-         requires_("1.10"),
+         requiring("1.10"),
          {compared("1.9", "1.10"), "print ", outdated, read("1.10")},
          "Uygulamanız eski. Lütfen 1.10 sürümüne güncelleyin."},
         {"1.2",
-         requires_("1.2.0"),
+         requiring("1.2.0"),
          {compared("1.2", "1.2.0"), "print ", outdated, read("1.2.0")},
          "Uygulamanız eski. Lütfen 1.2.0 sürümüne güncelleyin."},
         {"1",
-         requires_("1\\\"4"),
+         requiring("1\\\"4"),
          {compared("1", "1\"4"), "print ", outdated, read("1\\\"4")},
          "Uygulamanız eski. Lütfen 1\"4 sürümüne güncelleyin."},
         {"1", {.error = platformError("network", 2, "", "refused")}, {"print Hata: refused", null}, kUnreachable},

@@ -8,7 +8,6 @@ namespace {
 using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::StartsWith;
 
 constexpr const char* kLogin = "https://site.example/accounts/Login?ReturnUrl=%2F";
 constexpr const char* kJson =
@@ -77,7 +76,7 @@ TEST(LoginParameter, whatIsMissingIsWrittenAsItIsKnown)
     struct Case {
         simulated::Route echo;
         std::optional<std::string> serial;
-        const char* ends;
+        const char* ends = "";
     };
 
     const Case cases[] = {

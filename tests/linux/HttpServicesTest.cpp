@@ -48,6 +48,8 @@ void answer(SoupServer*, SoupServerMessage* message, const char* requested, GHas
         reply(200, "text/plain", cookie ? cookie : "none");
     } else if (path == "/moved") {
         soup_server_message_set_redirect(message, SOUP_STATUS_FOUND, "/text");
+    } else if (path == "/round") {
+        soup_server_message_set_redirect(message, SOUP_STATUS_FOUND, "/round");
     } else if (path == "/missing") {
         soup_server_message_set_status(message, SOUP_STATUS_NOT_FOUND, nullptr);
     } else if (path == "/silent") {
@@ -153,8 +155,8 @@ TEST(HttpSession, whatCannotBeLoadedIsAnErrorWithoutData)
 {
     const LoopbackServer server;
     HttpSession session(kSmall);
-    for (const std::string& url :
-         {std::string("https:///x"), server.url("/large"), server.url("/silent"), server.url("/stalling")}) {
+    for (const std::string& url : {std::string("https:///x"), server.url("/large"), server.url("/round"),
+                                   server.url("/silent"), server.url("/stalling")}) {
         const DataTaskResult result = get(session, url);
         ASSERT_TRUE(result.error) << url;
         EXPECT_FALSE(result.error->message.empty()) << url;
