@@ -18,21 +18,29 @@ constexpr const char* kInterface = "<node><interface name='org.freedesktop.FileM
                                    "<arg type='as' direction='in'/><arg type='s' direction='in'/></method>"
                                    "</interface></node>";
 
-/// A session bus of the test's own, and a home without anything in it.
+/// The folders of a user who has nothing. Named before main, because the library looks them up once a process.
+const fs::path kHome = [] {
+    fs::path home = fs::temp_directory_path() / ("orken-files-" + std::to_string(getpid()));
+    g_setenv("XDG_DATA_HOME", (home / "share").c_str(), TRUE);
+    g_setenv("XDG_CONFIG_HOME", home.c_str(), TRUE);
+    return home;
+}();
+
+/// On a session bus of the tests' own.
 class FileManagerTest : public testing::Test {
 protected:
-    FileManagerTest() : bus_(GObjectPtr<GTestDBus>::adopt(g_test_dbus_new(G_TEST_DBUS_NONE)))
+    static void SetUpTestSuite()
     {
-        fs::create_directories(home_ / "share/applications");
-        g_setenv("XDG_DATA_HOME", (home_ / "share").c_str(), TRUE);
-        g_setenv("XDG_CONFIG_HOME", home_.c_str(), TRUE);
+        fs::create_directories(kHome / "share/applications");
+        bus_ = GObjectPtr<GTestDBus>::adopt(g_test_dbus_new(G_TEST_DBUS_NONE));
         g_test_dbus_up(bus_.get());
     }
 
-    ~FileManagerTest() override
+    static void TearDownTestSuite()
     {
         g_test_dbus_stop(bus_.get());
-        fs::remove_all(home_);
+        bus_ = {};
+        fs::remove_all(kHome);
     }
 
     [[nodiscard]] static bool runUntil(const std::function<bool()>& done)
@@ -45,8 +53,7 @@ protected:
         return done();
     }
 
-    const fs::path home_ = fs::path(testing::TempDir()) / ("orken-files-" + std::to_string(getpid()));
-    GObjectPtr<GTestDBus> bus_;
+    static inline GObjectPtr<GTestDBus> bus_;
 };
 
 TEST_F(FileManagerTest, isAskedToSelectTheFile)
@@ -71,7 +78,7 @@ TEST_F(FileManagerTest, isAskedToSelectTheFile)
     g_dbus_connection_register_object(connection.get(), "/org/freedesktop/FileManager1", node->interfaces[0], &table,
                                       &shown, nullptr, nullptr);
     bool owned = false;
-    g_bus_own_name_on_connection(
+    const guint name = g_bus_own_name_on_connection(
         connection.get(), "org.freedesktop.FileManager1", G_BUS_NAME_OWNER_FLAGS_NONE,
         [](GDBusConnection*, const char*, gpointer data) { *static_cast<bool*>(data) = true; }, nullptr, &owned,
         nullptr);
@@ -80,20 +87,22 @@ TEST_F(FileManagerTest, isAskedToSelectTheFile)
     DesktopWorkspace().activateFileViewer("/home/öğrenci/İndirilenler/ders 1.pdf");
     EXPECT_TRUE(runUntil([&] { return !shown.empty(); }));
     EXPECT_EQ(shown, "(['file:///home/%C3%B6%C4%9Frenci/%C4%B0ndirilenler/ders%201.pdf'], '')");
+    g_bus_unown_name(name);
+    g_dbus_connection_close_sync(connection.get(), nullptr, nullptr);
     g_dbus_node_info_unref(node);
 }
 
 TEST_F(FileManagerTest, withoutOneTheFolderIsOpened)
 {
-    const fs::path opened = home_ / "opened";
-    std::ofstream(home_ / "share/applications/folders.desktop")
+    const fs::path opened = kHome / "opened";
+    std::ofstream(kHome / "share/applications/folders.desktop")
         << "[Desktop Entry]\nType=Application\nName=Folders\nMimeType=inode/directory;\nExec=cp -r %f "
         << opened.string() << "\n";
-    std::ofstream(home_ / "mimeapps.list") << "[Default Applications]\ninode/directory=folders.desktop\n";
-    fs::create_directories(home_ / "İndirilenler");
-    std::ofstream(home_ / "İndirilenler/ders.pdf") << "content";
+    std::ofstream(kHome / "mimeapps.list") << "[Default Applications]\ninode/directory=folders.desktop\n";
+    fs::create_directories(kHome / "İndirilenler");
+    std::ofstream(kHome / "İndirilenler/ders.pdf") << "content";
 
-    DesktopWorkspace().activateFileViewer(home_ / "İndirilenler/ders.pdf");
+    DesktopWorkspace().activateFileViewer(kHome / "İndirilenler/ders.pdf");
     EXPECT_TRUE(runUntil([&] { return fs::exists(opened / "ders.pdf"); }));
 }
 
