@@ -32,14 +32,14 @@ protected:
     static void SetUpTestSuite()
     {
         fs::create_directories(kHome / "share/applications");
-        bus_ = GObjectPtr<GTestDBus>::adopt(g_test_dbus_new(G_TEST_DBUS_NONE));
-        g_test_dbus_up(bus_.get());
+        testBus = GObjectPtr<GTestDBus>::adopt(g_test_dbus_new(G_TEST_DBUS_NONE));
+        g_test_dbus_up(testBus.get());
     }
 
     static void TearDownTestSuite()
     {
-        g_test_dbus_stop(bus_.get());
-        bus_ = {};
+        g_test_dbus_stop(testBus.get());
+        testBus = {};
         fs::remove_all(kHome);
     }
 
@@ -53,14 +53,14 @@ protected:
         return done();
     }
 
-    static inline GObjectPtr<GTestDBus> bus_;
+    static inline GObjectPtr<GTestDBus> testBus;
 };
 
 TEST_F(FileManagerTest, isAskedToSelectTheFile)
 {
     std::string shown;
     const auto connection = GObjectPtr<GDBusConnection>::adopt(g_dbus_connection_new_for_address_sync(
-        g_test_dbus_get_bus_address(bus_.get()),
+        g_test_dbus_get_bus_address(testBus.get()),
         static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
                                           G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION),
         nullptr, nullptr, nullptr));

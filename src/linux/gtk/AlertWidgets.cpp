@@ -119,6 +119,8 @@ void fillAlertWindow(GtkWindow* window, const AlertWidgetsContent& content,
     gtk_widget_set_margin_end(column, kMargin);
     gtk_box_append(GTK_BOX(column), row);
     gtk_box_append(GTK_BOX(column), buttons);
+    // Otherwise the window would look for the next one after a button that goes, and not at the default button.
+    gtk_window_set_focus(window, nullptr);
     gtk_window_set_child(window, column);
     const std::string title = shownText(content.title);
     gtk_window_set_title(window, title.c_str());
