@@ -1,6 +1,7 @@
 #include "linux/gtk/AlertPanel.h"
 
 #include "linux/gtk/AlertWidgets.h"
+#include "linux/gtk/WindowEnd.h"
 
 #include <utility>
 
@@ -26,7 +27,7 @@ const char* iconName(AlertStyle style)
 AlertPanel::~AlertPanel()
 {
     if (window_) {
-        gtk_window_destroy(window_);
+        destroyWindow(window_);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "linux/gtk/DesktopWindow.h"
 
+#include "linux/gtk/WindowEnd.h"
+
 #include <utility>
 
 namespace orken::desktop {
@@ -49,7 +51,7 @@ DesktopWindow::~DesktopWindow()
     connections_.clear();
     // The widgets report to the tree and stand in the window: they go before both.
     host_.reset();
-    gtk_window_destroy(window_);
+    destroyWindow(window_);
 }
 
 bool DesktopWindow::isVisible() const

@@ -1,6 +1,7 @@
 #include "linux/gtk/WindowAlert.h"
 
 #include "linux/gtk/AlertWidgets.h"
+#include "linux/gtk/WindowEnd.h"
 
 #include <algorithm>
 #include <memory>
@@ -53,7 +54,7 @@ WindowAlert::WindowAlert(GtkWindow* parent, const AlertContent& content, WindowA
 
 WindowAlert::~WindowAlert()
 {
-    gtk_window_destroy(window_);
+    destroyWindow(window_);
 }
 
 } // namespace orken::desktop
