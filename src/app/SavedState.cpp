@@ -10,7 +10,7 @@ namespace {
 
 constexpr const char* kRestoreCountKey = "restoreCount";
 /// The file is some 200 bytes long. What is this large is not the client's, and is not taken into memory.
-constexpr std::size_t kLargestFile = 1 << 20;
+constexpr std::size_t kLargestFile = 16 * 1024;
 
 } // namespace
 

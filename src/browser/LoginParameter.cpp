@@ -39,7 +39,7 @@ void LoginParameter::startLoginParameter(const std::weak_ptr<const NavigationDel
         return;
     }
     // On the background queue: the delegate is only asked whether it is there, and the browser view goes back to the
-    // main queue on every path, so that neither is ever destroyed off the main thread.
+    // main queue whatever the answer is, so that neither is destroyed off the main thread.
     auto answered = [this, delegate, webView = std::move(webView)](const DataTaskResult& echo) mutable {
         auto value = delegate.expired() ? std::nullopt : parameterValue(echo);
         ports_.mainQueue.async([this, webView = std::move(webView), value = std::move(value)] {

@@ -11,6 +11,9 @@ namespace {
 using Json = nlohmann::json;
 
 constexpr int kWrongShape = 1;
+/// Of a document, in bytes. The provider's are some dozens long; one that nests for megabytes takes many times its
+/// size.
+constexpr std::size_t kLongestDocument = 64 * 1024;
 
 PlatformError jsonError(int code, std::string_view reason)
 {
@@ -32,6 +35,9 @@ PlatformError parseError(const Json::exception& error)
 
 Outcome<std::string> jsonTextMember(std::string_view document, std::string_view key)
 {
+    if (document.size() > kLongestDocument) {
+        return jsonError(kWrongShape, "the document is too large");
+    }
     try {
         const Json json = Json::parse(document);
         if (!json.is_object()) {
@@ -52,6 +58,9 @@ Outcome<std::string> jsonTextMember(std::string_view document, std::string_view 
 
 Outcome<std::optional<JsonNumbers>> jsonNumbers(std::string_view document)
 {
+    if (document.size() > kLongestDocument) {
+        return jsonError(kWrongShape, "the document is too large");
+    }
     try {
         const Json json = Json::parse(document);
         if (!json.is_structured()) {

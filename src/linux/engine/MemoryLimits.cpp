@@ -11,7 +11,7 @@ using Settings = std::unique_ptr<WebKitMemoryPressureSettings, decltype(&webkit_
 // In MiB. A document of 100 MB was seen to take 970 MiB in the page's process, most of it twice over in base64, and 660
 // MiB in the network process; both have room for one of twice that size.
 constexpr guint kPageLimit = 2048;
-constexpr guint kNetworkLimit = 1280;
+constexpr guint kNetworkLimit = 1536;
 
 // Parts of the limit. Below the first a large document is never disturbed by the engine letting go of its caches.
 constexpr double kConservative = 0.5;

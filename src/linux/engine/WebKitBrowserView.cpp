@@ -37,6 +37,8 @@ void WebKitBrowserView::stop()
     isStopped_ = true;
     delegate_.reset();
     restart_.reset();
+    // What would still arrive could leave site data behind that has just been removed.
+    webkit_web_view_stop_loading(view_.get());
 }
 
 void WebKitBrowserView::setNavigationDelegate(std::weak_ptr<NavigationDelegate> delegate)
@@ -46,7 +48,7 @@ void WebKitBrowserView::setNavigationDelegate(std::weak_ptr<NavigationDelegate> 
 
 void WebKitBrowserView::load(const UrlRequest& request)
 {
-    if (!parseUrl(request.url)) {
+    if (isStopped_ || !parseUrl(request.url)) {
         return;
     }
     request_ = request;
@@ -60,6 +62,9 @@ void WebKitBrowserView::load(const UrlRequest& request)
 
 void WebKitBrowserView::beginRequest()
 {
+    if (isStopped_) {
+        return;
+    }
     if (!loads_) {
         connect();
     }

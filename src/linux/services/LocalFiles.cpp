@@ -71,7 +71,10 @@ bool writeAll(int file, const Bytes& content)
 {
     for (std::size_t done = 0; done < content.size();) {
         const ssize_t written = ::write(file, content.data() + done, content.size() - done);
-        if (written < 0 && errno != EINTR) {
+        if (written == 0) {
+            errno = EIO;
+        }
+        if (written == 0 || (written < 0 && errno != EINTR)) {
             return false;
         }
         done += written > 0 ? static_cast<std::size_t>(written) : 0;

@@ -67,8 +67,13 @@ void InstalledPrograms::read()
             continue;
         }
         std::string name(id);
-        const InstalledProgram described{
-            .identifier = name, .localizedName = g_app_info_get_name(program), .isFileManager = name == fileManager};
+        // Editors and browsers can be told to open folders, too.
+        const char* categories = g_desktop_app_info_get_categories(G_DESKTOP_APP_INFO(program));
+        const bool managesFiles =
+            categories && std::string_view(categories).find("FileManager") != std::string_view::npos;
+        const InstalledProgram described{.identifier = name,
+                                         .localizedName = g_app_info_get_name(program),
+                                         .isFileManager = managesFiles && name == fileManager};
         if (const char* windowClass = g_desktop_app_info_get_startup_wm_class(G_DESKTOP_APP_INFO(program))) {
             byClass_.emplace(lowerCase(windowClass), described);
         }

@@ -69,6 +69,9 @@ bool X11Applications::terminate(const RunningApplication& application)
 
 X11Connection* X11Applications::connection()
 {
+    if (connection_ && !connection_->isUsable()) {
+        connection_.reset();
+    }
     if (!connection_) {
         const auto display = displayName_();
         if (!display) {

@@ -1,5 +1,7 @@
 #include "linux/x11/X11Windows.h"
 
+#include "linux/x11/ProcessTree.h"
+
 #include <algorithm>
 #include <span>
 #include <string>
@@ -64,6 +66,13 @@ bool isThisMachine(std::string_view machine)
     return machine.empty() || (gethostname(name, sizeof name - 1) == 0 && machine == name);
 }
 
+/// The client itself or what started it: these count also when the machine has got another name since their windows
+/// were made. Not knowing them would close the session.
+bool concernsTheClient(int process)
+{
+    return process == getpid() || ProcessTree::isAncestor(process, getpid());
+}
+
 struct Asked {
     Cookie pid, machine, leader, windowClass, type;
 };
@@ -87,8 +96,9 @@ ClientWindow describe(const X11Connection& connection, xcb_window_t id, const As
 
     ClientWindow window{.id = id, .leader = firstOf(leader)};
     const auto process = firstOf(pid);
-    if (process && *process > 0 && isThisMachine(textOf(machine))) {
-        window.processIdentifier = static_cast<int>(*process);
+    const int number = process ? static_cast<int>(*process) : 0;
+    if (number > 0 && (isThisMachine(textOf(machine)) || concernsTheClient(number))) {
+        window.processIdentifier = number;
     }
     std::string_view classText = textOf(windowClass);
     window.instanceName = takePart(classText);
@@ -113,7 +123,8 @@ std::optional<X11WindowList> listWindows(X11Connection& connection)
     const Property list = take(connection, listCookie);
     const Property supported = take(connection, supportedCookie);
     const auto manager = firstOf(check);
-    if (!manager) {
+    constexpr int kNumbers = 32;
+    if (!manager || !list || list->format != kNumbers) {
         return std::nullopt;
     }
 
