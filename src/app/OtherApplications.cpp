@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <string_view>
 
 namespace orken {
 
@@ -16,12 +15,6 @@ constexpr std::array<std::string_view, 7> kNeverAsked{"com.apple.finder",       
                                                       "com.apple.systemuiserver", "com.apple.WindowServer",
                                                       "com.apple.loginwindow",    "com.apple.wallpaper.agent",
                                                       "com.apple.Spotlight"};
-
-template <class Identifiers>
-bool contains(const Identifiers& identifiers, const std::string& identifier)
-{
-    return std::find(identifiers.begin(), identifiers.end(), identifier) != identifiers.end();
-}
 
 std::string listText(const std::vector<RunningApplication>& applications)
 {
@@ -43,17 +36,16 @@ std::string listText(const std::vector<RunningApplication>& applications)
 
 bool OtherApplications::isClosable(const RunningApplication& application) const
 {
-    const auto& identifier = application.bundleIdentifier;
-    const bool isOffered =
-        !identifier || (!contains(kNeverOffered, *identifier) && *identifier != kAppBundleIdentifier_);
-    return isOffered && !ports_.runningApplications.isCurrent(application);
+    return !isKept(application, kNeverOffered);
 }
 
-bool OtherApplications::isKept(const RunningApplication& application) const
+bool OtherApplications::isKept(const RunningApplication& application,
+                               std::span<const std::string_view> identifiers) const
 {
-    const auto& identifier = application.bundleIdentifier;
-    const bool isSystems = identifier && (contains(kNeverAsked, *identifier) || *identifier == kAppBundleIdentifier_);
-    return isSystems || ports_.runningApplications.isCurrent(application);
+    const auto& own = application.bundleIdentifier;
+    const bool isNamed = own && (*own == kAppBundleIdentifier_ ||
+                                 std::find(identifiers.begin(), identifiers.end(), *own) != identifiers.end());
+    return isNamed || ports_.runningApplications.isCurrent(application);
 }
 
 void OtherApplications::closeOtherApplications()
@@ -81,7 +73,7 @@ void OtherApplications::closeOtherApplications()
 void OtherApplications::terminateOtherApplications()
 {
     for (const RunningApplication& application : ports_.runningApplications.all()) {
-        if (!isKept(application)) {
+        if (!isKept(application, kNeverAsked)) {
             (void)ports_.runningApplications.terminate(application);
         }
     }

@@ -5,7 +5,9 @@
 #include "platform/Console.h"
 #include "platform/RunningApplications.h"
 
+#include <span>
 #include <string>
+#include <string_view>
 
 namespace orken {
 
@@ -34,7 +36,9 @@ public:
     void terminateOtherApplications();
 
 private:
-    [[nodiscard]] bool isKept(const RunningApplication& application) const;
+    /// The client itself, or one whose identifier is the client's or among these.
+    [[nodiscard]] bool isKept(const RunningApplication& application,
+                              std::span<const std::string_view> identifiers) const;
 
     Ports ports_;
     std::string kAppBundleIdentifier_;

@@ -31,55 +31,59 @@ PlatformError parseError(const Json::exception& error)
     return jsonError(error.id, reason);
 }
 
-} // namespace
-
-Outcome<std::string> jsonTextMember(std::string_view document, std::string_view key)
+Outcome<Json> parse(std::string_view document)
 {
     if (document.size() > kLongestDocument) {
         return jsonError(kWrongShape, "the document is too large");
     }
     try {
-        const Json json = Json::parse(document);
-        if (!json.is_object()) {
-            return jsonError(kWrongShape, "the document is not an object");
-        }
-        const auto member = json.find(key);
-        if (member == json.end()) {
-            return jsonError(kWrongShape, "no member \"" + std::string(key) + "\"");
-        }
-        if (!member->is_string()) {
-            return jsonError(kWrongShape, "member \"" + std::string(key) + "\" is not a string");
-        }
-        return member->get<std::string>();
+        return Json::parse(document);
     } catch (const Json::exception& error) {
         return parseError(error);
     }
 }
 
+} // namespace
+
+Outcome<std::string> jsonTextMember(std::string_view document, std::string_view key)
+{
+    const auto json = parse(document);
+    if (!json) {
+        return json.error();
+    }
+    if (!json.value().is_object()) {
+        return jsonError(kWrongShape, "the document is not an object");
+    }
+    const auto member = json.value().find(key);
+    if (member == json.value().end()) {
+        return jsonError(kWrongShape, "no member \"" + std::string(key) + "\"");
+    }
+    if (!member->is_string()) {
+        return jsonError(kWrongShape, "member \"" + std::string(key) + "\" is not a string");
+    }
+    return member->get<std::string>();
+}
+
 Outcome<std::optional<JsonNumbers>> jsonNumbers(std::string_view document)
 {
-    if (document.size() > kLongestDocument) {
-        return jsonError(kWrongShape, "the document is too large");
+    const auto json = parse(document);
+    if (!json) {
+        return json.error();
     }
-    try {
-        const Json json = Json::parse(document);
-        if (!json.is_structured()) {
-            return jsonError(kWrongShape, "the document is neither an object nor an array");
-        }
-        if (!json.is_object()) {
+    if (!json.value().is_structured()) {
+        return jsonError(kWrongShape, "the document is neither an object nor an array");
+    }
+    if (!json.value().is_object()) {
+        return std::optional<JsonNumbers>();
+    }
+    JsonNumbers numbers;
+    for (const auto& [key, value] : json.value().items()) {
+        if (!value.is_number()) {
             return std::optional<JsonNumbers>();
         }
-        JsonNumbers numbers;
-        for (const auto& [key, value] : json.items()) {
-            if (!value.is_number()) {
-                return std::optional<JsonNumbers>();
-            }
-            numbers[key] = value.get<double>();
-        }
-        return std::optional(std::move(numbers));
-    } catch (const Json::exception& error) {
-        return parseError(error);
+        numbers[key] = value.get<double>();
     }
+    return std::optional(std::move(numbers));
 }
 
 } // namespace orken

@@ -1,7 +1,7 @@
 #include "linux/engine/PageTitle.h"
 
-#include "linux/GObjectPtr.h"
 #include "linux/engine/AsyncReply.h"
+#include "linux/engine/ScriptCalls.h"
 #include "linux/engine/ScriptWorld.h"
 
 #include <optional>
@@ -16,11 +16,11 @@ constexpr Seconds kPatience{0.5};
 /// Absent when the page has no document to ask or an element named "title" stands in the way.
 std::optional<std::string> textResult(WebKitWebView* view, GAsyncResult* result)
 {
-    const auto value = GObjectPtr<JSCValue>::adopt(webkit_web_view_evaluate_javascript_finish(view, result, nullptr));
-    if (!value || !jsc_value_is_string(value.get())) {
-        return std::nullopt;
-    }
-    return GText(jsc_value_to_string(value.get())).get();
+    GError* error = nullptr;
+    JSCValue* value = webkit_web_view_evaluate_javascript_finish(view, result, &error);
+    const auto handedOver = takeScriptResult(value, error);
+    const ScriptText* text = textOf(handedOver);
+    return text ? std::optional<std::string>(text->view()) : std::nullopt;
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "linux/x11/ProcessTree.h"
 
+#include <algorithm>
 #include <charconv>
 #include <filesystem>
 #include <fstream>
@@ -32,18 +33,23 @@ std::optional<int> ProcessTree::parentOf(int process)
     return error == std::errc() ? std::optional(parent) : std::nullopt;
 }
 
-bool ProcessTree::isAncestor(int process, int descendant)
+std::vector<int> ProcessTree::ancestorsOf(int process)
 {
     // A number that is used again while this looks could close the chain to a ring.
-    constexpr int kLongestChain = 1000;
-    auto parent = parentOf(descendant);
-    for (int i = 0; i < kLongestChain && parent && *parent > 0; ++i) {
-        if (*parent == process) {
-            return true;
-        }
+    constexpr std::size_t kLongestChain = 1000;
+    std::vector<int> ancestors;
+    auto parent = parentOf(process);
+    while (ancestors.size() < kLongestChain && parent && *parent > 0) {
+        ancestors.push_back(*parent);
         parent = parentOf(*parent);
     }
-    return false;
+    return ancestors;
+}
+
+bool ProcessTree::isAncestor(int process, int descendant)
+{
+    const auto ancestors = ancestorsOf(descendant);
+    return std::find(ancestors.begin(), ancestors.end(), process) != ancestors.end();
 }
 
 bool ProcessTree::runSameProgram(int process, int other)

@@ -4,6 +4,7 @@
 #include "linux/x11/ProcessTree.h"
 #include "linux/x11/X11Windows.h"
 
+#include <algorithm>
 #include <glib.h>
 #include <unistd.h>
 
@@ -91,7 +92,10 @@ SessionFacts X11Applications::factsAbout(std::optional<int> windowManagerProcess
             .ownBundleIdentifier = bundleIdentifier_,
             .windowManagerProcess = windowManagerProcess,
             .startWindow = startWindow(),
-            .isAncestor = [](int process) { return ProcessTree::isAncestor(process, getpid()); },
+            .isAncestor =
+                [ancestors = ProcessTree::ancestorsOf(getpid())](int process) {
+                    return std::find(ancestors.begin(), ancestors.end(), process) != ancestors.end();
+                },
             .isOwn =
                 [](int process) {
                     return ProcessTree::isAncestor(getpid(), process) || ProcessTree::runSameProgram(getpid(), process);

@@ -19,6 +19,9 @@ using Property = XcbReply<xcb_get_property_reply_t>;
 constexpr std::uint32_t kLongestText = 256;
 constexpr std::uint32_t kLongestList = 16384;
 
+// Bits of one item, which tell the kind of a property.
+constexpr int kNumbers = 32;
+
 Cookie ask(const X11Connection& connection, xcb_window_t window, xcb_atom_t property, std::uint32_t length)
 {
     return xcb_get_property(connection.get(), 0, window, property, XCB_GET_PROPERTY_TYPE_ANY, 0, length);
@@ -32,7 +35,7 @@ Property take(const X11Connection& connection, Cookie cookie)
 /// Empty for a property that is missing or of another kind.
 std::span<const std::uint32_t> numbersOf(const Property& property)
 {
-    if (!property || property->format != 32) {
+    if (!property || property->format != kNumbers) {
         return {};
     }
     return {static_cast<const std::uint32_t*>(xcb_get_property_value(property.get())), property->value_len};
@@ -123,7 +126,6 @@ std::optional<X11WindowList> listWindows(X11Connection& connection)
     const Property list = take(connection, listCookie);
     const Property supported = take(connection, supportedCookie);
     const auto manager = firstOf(check);
-    constexpr int kNumbers = 32;
     if (!manager || !list || list->format != kNumbers) {
         return std::nullopt;
     }
