@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Alerts.h"
+#include "platform/AnimationSurface.h"
 #include "platform/Application.h"
 #include "platform/BrowserView.h"
 #include "platform/BundleInfo.h"
@@ -47,6 +48,7 @@ struct Ports {
     ContentsReader& contentsReader;
     HardwareRegistry& hardware;
     BrowserViews& browserViews;
+    AnimationSurfaces& animationSurfaces;
 };
 
 /// The ports of a desktop whose members have the ports' names.
@@ -73,7 +75,8 @@ template <class Desktop>
             .urlSession = desktop.urlSession,
             .contentsReader = desktop.contentsReader,
             .hardware = desktop.hardware,
-            .browserViews = desktop.engine};
+            .browserViews = desktop.engine,
+            .animationSurfaces = desktop.animationSurfaces};
 }
 
 } // namespace orken

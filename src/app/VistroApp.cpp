@@ -97,8 +97,17 @@ std::unique_ptr<View> VistroApp::makeSessionScreen(const std::string& link)
                                              .mainQueue = ports_.mainQueue,
                                              .screens = ports_.screens,
                                              .random = ports_.random,
-                                             .console = ports_.console}};
-    return std::make_unique<WebView>(link, endpoints_.mainPageURL, ports);
+                                             .console = ports_.console},
+                               .animation = {.surfaces = ports_.animationSurfaces,
+                                             .urlSession = ports_.urlSession,
+                                             .mainQueue = ports_.mainQueue,
+                                             .files = ports_.files,
+                                             .bundle = ports_.bundle,
+                                             .notifications = ports_.notifications}};
+    return std::make_unique<WebView>(link,
+                                     WebView::Addresses{.kMainPageURL = endpoints_.mainPageURL,
+                                                        .kLoadingAnimationURL = endpoints_.loadingAnimationURL()},
+                                     ports);
 }
 
 } // namespace orken

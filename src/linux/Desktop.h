@@ -2,6 +2,7 @@
 
 #include "linux/LateEngine.h"
 #include "linux/gtk/DesktopAlerts.h"
+#include "linux/gtk/DesktopAnimationSurface.h"
 #include "linux/gtk/DesktopApplication.h"
 #include "linux/gtk/DesktopScreens.h"
 #include "linux/gtk/DesktopWindows.h"
@@ -68,6 +69,7 @@ public:
     LateEngine engine;
     DesktopWindows windows{notifications, alertGate_, keyMonitors};
     DesktopScreens screens;
+    DesktopAnimationSurfaces animationSurfaces;
     DesktopAlerts alerts{alertStack_, windows, alertGate_};
     DesktopApplication application;
 };

@@ -1,25 +1,19 @@
 #include "linux/LateEngine.h"
 
+#include "linux/services/InstalledFolders.h"
+
 #include <dlfcn.h>
 #include <glib.h>
 
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
 #include <utility>
 
 namespace orken::desktop {
 
 namespace {
 
-constexpr const char* kModule = "../lib/orken/liborken-engine.so";
-
-std::filesystem::path modulePath()
-{
-    std::error_code error;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-    return (program.parent_path() / kModule).lexically_normal();
-}
+constexpr const char* kModule = "liborken-engine.so";
 
 } // namespace
 
@@ -34,7 +28,7 @@ EngineModule* LateEngine::load()
         return engine_.get();
     }
     // Never unloaded: the engine's threads and types stay until the process ends.
-    void* module = dlopen(modulePath().c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
+    void* module = dlopen((modulesFolder() / kModule).c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
     void* symbol = module ? dlsym(module, kMakeEngineSymbol) : nullptr;
     if (!symbol) {
         const char* reason = dlerror();

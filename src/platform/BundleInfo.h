@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <variant>
@@ -20,6 +21,9 @@ public:
     virtual ~BundleInfo() = default;
 
     [[nodiscard]] virtual InfoValue infoValue(const std::string& key) const = 0;
+
+    /// Folder of the bundle's resources, absolute; it may be missing.
+    [[nodiscard]] virtual std::filesystem::path resourcesFolder() const = 0;
 };
 
 /// Absent when the key is missing or its value is not a text.

@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::int64_t kSlowLoadThreshold = 301;
 constexpr std::size_t kLongestWatermark = 200;
+constexpr double kAnimationExtent = 300;
 constexpr Shadow kTextShadow{.color = Color::black(), .radius = 1, .x = 1, .y = 1};
 
 bool contains(const std::string& text, const char* part)
@@ -19,9 +20,11 @@ bool contains(const std::string& text, const char* part)
 
 } // namespace
 
-WebView::WebView(const std::string& link, std::string kMainPageURL, const Ports& ports)
-    : ports_(ports), kMainPageURL_(std::move(kMainPageURL)), model_(std::make_shared<WebViewModel>(link)),
+WebView::WebView(const std::string& link, Addresses addresses, const Ports& ports)
+    : ports_(ports), addresses_(std::move(addresses)), model_(std::make_shared<WebViewModel>(link)),
       position_(makeState(Point{})), second_(makeState(std::int64_t{0})), isFullScreen_(makeState(false)),
+      loadingAnimation_(std::make_shared<LUStateData>(LULoadType::loadedFrom(addresses_.kLoadingAnimationURL), 1.0,
+                                                      LottieLoopMode::loop(), std::nullopt, false, LUContentMode::fit)),
       loadCounter_(std::make_shared<LoadCounter>(model_, second_, ports.watermark.timers, ports.watermark.mainQueue)),
       watermark_(std::make_shared<WatermarkMovement>(position_, ports.pageValues, ports.watermark))
 {
@@ -70,7 +73,11 @@ Element WebView::cornerLayer()
 Element WebView::waitingOverlay()
 {
     const bool isSlow = second_.get() >= kSlowLoadThreshold;
-    return VStack({When(!isSlow, [] { return Text("Yükleniyor...").font(Font::system36); }),
+    auto ignored = [](bool) {};
+    auto animation = LottieView::element(
+        {.state = loadingAnimation_, .onCompleted = ignored, .onDownloaded = ignored, .value = 0}, ports_.animation);
+    return VStack({std::move(animation).frame({.width = kAnimationExtent, .height = kAnimationExtent}),
+                   When(!isSlow, [] { return Text("Yükleniyor...").font(Font::system36); }),
                    When(isSlow, [this] { return slowLoadMessage(); })},
                   0)
         .foreground(Color::white())
@@ -134,7 +141,7 @@ void WebView::setUpWindow()
 void WebView::openMainPage()
 {
     if (model_->webView) {
-        model_->webView->load({.url = kMainPageURL_});
+        model_->webView->load({.url = addresses_.kMainPageURL});
     }
 }
 

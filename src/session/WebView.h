@@ -1,5 +1,6 @@
 #pragma once
 
+#include "animation/LottieView.h"
 #include "browser/SwiftUIWebView.h"
 #include "platform/Alerts.h"
 #include "platform/Application.h"
@@ -30,9 +31,16 @@ public:
         const BundleInfo& bundle;
         const PageValues& pageValues;
         WatermarkMovement::Ports watermark;
+        AnimationServices animation;
     };
 
-    WebView(const std::string& link, std::string kMainPageURL, const Ports& ports);
+    /// Where the provider's documents for this screen are.
+    struct Addresses {
+        std::string kMainPageURL;
+        std::string kLoadingAnimationURL;
+    };
+
+    WebView(const std::string& link, Addresses addresses, const Ports& ports);
 
     [[nodiscard]] Element body() override;
 
@@ -50,7 +58,7 @@ private:
     void openMainPage();
 
     Ports ports_;
-    std::string kMainPageURL_;
+    Addresses addresses_;
     std::shared_ptr<WebViewModel> model_;
     /// Centre of the watermark.
     State<Point> position_;
@@ -58,6 +66,7 @@ private:
     State<std::int64_t> second_;
     /// Mirror of the window's state.
     State<bool> isFullScreen_;
+    std::shared_ptr<LUStateData> loadingAnimation_;
     std::shared_ptr<LoadCounter> loadCounter_;
     std::shared_ptr<WatermarkMovement> watermark_;
 };

@@ -143,6 +143,7 @@ struct Handlers {
     std::function<std::unique_ptr<View>()> makeView;
     std::function<void(View&)> updateView;
     std::function<std::unique_ptr<Representation>()> makeRepresentation;
+    std::function<void(Representation&)> renewRepresentation;
 };
 
 struct AlertButton {
@@ -260,14 +261,20 @@ template <class V>
     return element;
 }
 
-/// A native view. `make` runs once, when the place is taken; the representable's update runs on every redraw.
+/// A native view. `make` runs once, when the place is taken; the representable's update runs on every redraw, after
+/// `renew` has handed the newest values over to the representable that is there.
 template <class R>
-[[nodiscard]] Element Representable(std::function<std::unique_ptr<R>()> make)
+[[nodiscard]] Element Representable(std::function<std::unique_ptr<R>()> make, std::function<void(R&)> renew = {})
 {
     Element element(RepresentableContent{.type = typeid(R)});
     element.handlers().makeRepresentation = [make = std::move(make)] {
         return std::make_unique<BridgedRepresentation<R>>(make());
     };
+    if (renew) {
+        element.handlers().renewRepresentation = [renew = std::move(renew)](Representation& representation) {
+            renew(static_cast<BridgedRepresentation<R>&>(representation).representable());
+        };
+    }
     return element;
 }
 

@@ -51,6 +51,8 @@ RenderNodePtr Reconciler::place(Element element, const RenderNodePtr& old)
         if (handlers.makeRepresentation) {
             if (!node->representation) {
                 node->representation = handlers.makeRepresentation();
+            } else if (handlers.renewRepresentation) {
+                handlers.renewRepresentation(*node->representation);
             }
             redrawn_.push_back(node->representation);
         }

@@ -25,6 +25,9 @@ struct RepresentableContext {
     std::shared_ptr<Coordinator> coordinator;
 };
 
+/// The coordinator of a representable that needs none.
+struct NoCoordinator {};
+
 /// A representable at its place in the tree: made once, updated on every redraw of the view that holds it.
 class Representation {
 public:
@@ -38,11 +41,23 @@ public:
     virtual void update() = 0;
 };
 
-/// Bridges a representable type with `makeCoordinator()`, `makeNSView(context)` and `updateNSView(view, context)`.
-/// The coordinator is made first; it and the representable live until the place in the tree is given up.
+/// Makes the coordinator of a representable type that has one.
+template <class Representable>
+[[nodiscard]] auto makeCoordinatorOf(Representable& representable)
+{
+    if constexpr (requires { representable.makeCoordinator(); }) {
+        return representable.makeCoordinator();
+    } else {
+        return std::shared_ptr<NoCoordinator>();
+    }
+}
+
+/// Bridges a representable type with `makeNSView(context)`, `updateNSView(view, context)` and, where it wants one,
+/// `makeCoordinator()`. The coordinator is made first; it and the representable live until the place in the tree is
+/// given up.
 template <class Representable>
 class BridgedRepresentation final : public Representation {
-    using CoordinatorPointer = decltype(std::declval<Representable&>().makeCoordinator());
+    using CoordinatorPointer = decltype(makeCoordinatorOf(std::declval<Representable&>()));
     using Coordinator = typename CoordinatorPointer::element_type;
     using Context = RepresentableContext<Coordinator>;
     using ViewPointer = decltype(std::declval<Representable&>().makeNSView(std::declval<const Context&>()));
@@ -50,7 +65,7 @@ class BridgedRepresentation final : public Representation {
 
 public:
     explicit BridgedRepresentation(std::unique_ptr<Representable> representable)
-        : representable_(std::move(representable)), context_{.coordinator = representable_->makeCoordinator()},
+        : representable_(std::move(representable)), context_{.coordinator = makeCoordinatorOf(*representable_)},
           view_(representable_->makeNSView(context_)), platformView_(view_)
     {
     }
@@ -58,6 +73,9 @@ public:
     [[nodiscard]] const std::shared_ptr<PlatformView>& platformView() const override { return platformView_; }
 
     void update() override { representable_->updateNSView(*view_, context_); }
+
+    /// For handing over newer values before an update.
+    [[nodiscard]] Representable& representable() { return *representable_; }
 
 private:
     std::unique_ptr<Representable> representable_;

@@ -14,6 +14,7 @@ constexpr const char* kLogin = "https://site.example/accounts/Login";
 constexpr const char* kVideo = "https://site.example/playlist/1?hash=B6xUEGCyo/eXAqNDLYnlZw==";
 constexpr const char* kLoading = "Yükleniyor...";
 constexpr const char* kMainPageButton = "ANASAYFAYI AÇ";
+constexpr const char* kAnimation = "https://animation.example/a.json";
 constexpr const char* kCaption = "Uygulama sürümü 2.1";
 
 struct Bed : BrowserBed {
@@ -23,7 +24,7 @@ struct Bed : BrowserBed {
         desktop.browserViews.site = {{link, {.title = "page", .loadTime = loadTime}}, {"https://site.example/", {}}};
         window->makeKeyAndOrderFront();
         window->setContentView(std::make_unique<WebView>(
-            link, "https://site.example/",
+            link, WebView::Addresses{.kMainPageURL = "https://site.example/", .kLoadingAnimationURL = kAnimation},
             WebView::Ports{desktop.browserViews,
                            windowControl,
                            services,
@@ -31,7 +32,9 @@ struct Bed : BrowserBed {
                            desktop.application,
                            desktop.bundle,
                            values,
-                           {desktop.loop, desktop.loop, desktop.screens, desktop.random, desktop.console}}));
+                           {desktop.loop, desktop.loop, desktop.screens, desktop.random, desktop.console},
+                           {desktop.animationSurfaces, desktop.network, desktop.loop, desktop.files, desktop.bundle,
+                            desktop.notifications}}));
         desktop.loop.run();
     }
 

@@ -34,7 +34,7 @@ public:
     {
     }
 
-    [[nodiscard]] void* native() override { return this; }
+    [[nodiscard]] void* native() override { return nullptr; }
 
     [[nodiscard]] BrowserConfiguration& configuration() override { return *this; }
 

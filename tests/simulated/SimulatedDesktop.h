@@ -2,6 +2,7 @@
 
 #include "platform/KeyMonitors.h"
 #include "simulated/SimulatedAlerts.h"
+#include "simulated/SimulatedAnimation.h"
 #include "simulated/SimulatedBrowser.h"
 #include "simulated/SimulatedFiles.h"
 #include "simulated/SimulatedMachine.h"
@@ -42,6 +43,7 @@ public:
     SimulatedNetwork network{loop, journal};
     SimulatedWebsiteData websiteData{loop, journal};
     SimulatedBrowserViews browserViews{loop, journal};
+    SimulatedAnimationSurfaces animationSurfaces{loop};
 
     /// The visible window that shows the text; null when there is none.
     [[nodiscard]] SimulatedWindows::WindowPtr showing(const std::string& text) const

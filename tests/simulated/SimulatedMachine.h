@@ -120,6 +120,8 @@ public:
         return place == values.end() ? InfoValue() : place->second;
     }
 
+    [[nodiscard]] std::filesystem::path resourcesFolder() const override { return "/resources"; }
+
     std::map<std::string, InfoValue> values{{kBundleShortVersionKey, InfoValue("2.1")}};
 };
 

@@ -1,6 +1,7 @@
 #include "simulated/StubViewHost.h"
 
 #include "simulated/Require.h"
+#include "simulated/SeenView.h"
 
 #include <algorithm>
 #include <utility>
@@ -30,6 +31,9 @@ void StubViewHost::apply(const Mutations& mutations, ViewEvents& events)
     }
     for (const auto& [id, node] : nodes_) {
         require(id == kRootContainer || node.parent, "a node was created and not inserted");
+        if (auto* view = node.view ? static_cast<SeenView*>(node.view->native()) : nullptr) {
+            view->setSeen(isSeen(id));
+        }
     }
 }
 
@@ -136,6 +140,12 @@ bool StubViewHost::isUsable(const PlatformView& view) const
 {
     const auto id = findIf([&](const Node& node) { return node.view.get() == &view; });
     return id && isUsable(*id);
+}
+
+bool StubViewHost::isSeen(NodeId id) const
+{
+    const Node& node = nodes_.at(id);
+    return node.modifiers.opacity > 0 && (!node.parent || isSeen(*node.parent));
 }
 
 bool StubViewHost::isUsable(NodeId id) const

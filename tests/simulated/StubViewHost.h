@@ -69,6 +69,7 @@ private:
     void take(const mutation::Update& step);
     Node& at(NodeId id);
     [[nodiscard]] std::vector<Rendered> render(NodeId parent) const;
+    [[nodiscard]] bool isSeen(NodeId id) const;
     [[nodiscard]] bool isUsable(NodeId id) const;
     template <class Test>
     [[nodiscard]] std::optional<NodeId> findIf(const Test& test) const;

@@ -2,7 +2,7 @@
 
 #include "foundation/PlatformError.h"
 #include "linux/SignalConnection.h"
-#include "linux/engine/Deadline.h"
+#include "linux/services/Deadline.h"
 #include "platform/BrowserView.h"
 
 #include <webkit/webkit.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "linux/engine/Deadline.h"
+#include "linux/services/Deadline.h"
 
 #include <webkit/webkit.h>
 

@@ -1,0 +1,306 @@
+#include "animation/DocumentChecker.h"
+
+#include "animation/DocumentReader.h"
+#include "animation/DocumentTimes.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+
+namespace orken {
+
+namespace {
+
+using Json = nlohmann::json;
+
+constexpr double kLargestNumber = 32768;
+constexpr double kLargestExtent = 8192;
+constexpr double kLargestFrameRate = 240;
+constexpr double kMostFrames = 36000;
+constexpr double kLargestEasing = 100;
+constexpr double kMostCopies = 100;
+constexpr int kMostLayers = 2000;
+
+// Numbers of the format that name the kind of a layer.
+constexpr int kImageLayer = 2;
+constexpr int kNullLayer = 3;
+
+const Json* member(const Json& object, const char* key)
+{
+    const auto place = object.find(key);
+    return object.is_object() && place != object.end() ? &*place : nullptr;
+}
+
+std::optional<double> numberOf(const Json& object, const char* key)
+{
+    const Json* value = member(object, key);
+    return value && value->is_number() ? std::optional(value->get<double>()) : std::nullopt;
+}
+
+bool isText(const Json* value, const char* text)
+{
+    return value && value->is_string() && value->get_ref<const std::string&>() == text;
+}
+
+bool isWithin(std::optional<double> number, double low, double high)
+{
+    return number && *number >= low && *number <= high;
+}
+
+void clampNumbers(Json& value, double low, double high)
+{
+    if (value.is_number()) {
+        value = std::clamp(value.get<double>(), low, high);
+    } else if (value.is_array()) {
+        for (Json& item : value) {
+            clampNumbers(item, low, high);
+        }
+    }
+}
+
+/// Handles of an easing curve: real documents carry numbers here that are far too large and mean nothing.
+void clampEasing(Json& keyframe)
+{
+    for (const char* key : {"i", "o"}) {
+        const auto handle = keyframe.find(key);
+        if (handle != keyframe.end() && handle->is_object()) {
+            if (const auto x = handle->find("x"); x != handle->end()) {
+                clampNumbers(*x, 0, 1);
+            }
+            if (const auto y = handle->find("y"); y != handle->end()) {
+                clampNumbers(*y, -kLargestEasing, kLargestEasing);
+            }
+        }
+    }
+}
+
+double largestNumber(const Json& value)
+{
+    if (value.is_number()) {
+        return std::abs(value.get<double>());
+    }
+    double largest = 0;
+    if (value.is_structured()) {
+        for (const Json& item : value) {
+            largest = std::max(largest, largestNumber(item));
+        }
+    }
+    return largest;
+}
+
+/// The copies of a repeater: a number, or keyframes with values before and after.
+bool hasTooManyCopies(const Json& object)
+{
+    const Json* copies = isText(member(object, "ty"), "rp") ? member(object, "c") : nullptr;
+    const Json* value = copies ? member(*copies, "k") : nullptr;
+    if (!value) {
+        return copies && largestNumber(*copies) > kMostCopies;
+    }
+    if (!value->is_array()) {
+        return largestNumber(*value) > kMostCopies;
+    }
+    return std::any_of(value->begin(), value->end(), [](const Json& item) {
+        if (!item.is_object()) {
+            return largestNumber(item) > kMostCopies;
+        }
+        const Json* before = member(item, "s");
+        const Json* after = member(item, "e");
+        return (before && largestNumber(*before) > kMostCopies) || (after && largestNumber(*after) > kMostCopies);
+    });
+}
+
+/// A layer without its picture keeps its place: others count on it.
+void dropPicture(Json& object)
+{
+    if (member(object, "layers") == nullptr && numberOf(object, "ty") == kImageLayer) {
+        object["ty"] = kNullLayer;
+        object.erase("refId");
+    }
+}
+
+/// Mends what can be mended everywhere in the document; says what cannot.
+std::optional<PlatformError> mendValues(Json& value)
+{
+    if (value.is_number() && !(std::abs(value.get<double>()) <= kLargestNumber)) {
+        return unusableAnimation("a number is too large");
+    }
+    if (value.is_object()) {
+        clampEasing(value);
+        dropPicture(value);
+        if (hasTooManyCopies(value)) {
+            return unusableAnimation("a repeater makes too many copies");
+        }
+    }
+    if (value.is_structured()) {
+        for (Json& item : value) {
+            if (auto error = mendValues(item)) {
+                return error;
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+/// Layers of a composition with those of the compositions that it shows, each as often as it is shown.
+class LayerCount {
+public:
+    explicit LayerCount(const Json& root)
+    {
+        if (const Json* assets = member(root, "assets"); assets && assets->is_array()) {
+            for (const Json& asset : *assets) {
+                if (const Json* id = member(asset, "id"); id && id->is_string()) {
+                    compositions_[id->get<std::string>()] = {.layers = member(asset, "layers")};
+                }
+            }
+        }
+        total_ = count(member(root, "layers"));
+        for (auto& [id, composition] : compositions_) {
+            (void)countOnce(composition);
+        }
+    }
+
+    /// Absent when compositions show one another in a ring.
+    [[nodiscard]] std::optional<int> total() const { return hasRing_ ? std::nullopt : std::optional(total_); }
+
+private:
+    struct Composition {
+        const Json* layers = nullptr;
+        bool isOpen = false;
+        std::optional<int> count;
+    };
+
+    int countOnce(Composition& composition)
+    {
+        if (composition.isOpen) {
+            hasRing_ = true;
+        } else if (!composition.count) {
+            composition.isOpen = true;
+            composition.count = count(composition.layers);
+            composition.isOpen = false;
+        }
+        return composition.count.value_or(0);
+    }
+
+    int count(const Json* layers)
+    {
+        int sum = 0;
+        if (!layers || !layers->is_array()) {
+            return sum;
+        }
+        for (const Json& layer : *layers) {
+            const Json* reference = member(layer, "refId");
+            const auto shown = reference && reference->is_string()
+                                   ? compositions_.find(reference->get_ref<const std::string&>())
+                                   : compositions_.end();
+            sum += 1 + (shown != compositions_.end() ? countOnce(shown->second) : 0);
+            sum = std::min(sum, kMostLayers + 1);
+        }
+        return sum;
+    }
+
+    std::map<std::string, Composition> compositions_;
+    bool hasRing_ = false;
+    int total_ = 0;
+};
+
+/// Pictures and sounds go; compositions stay.
+void dropFileAssets(Json& root)
+{
+    const auto assets = root.find("assets");
+    if (assets == root.end()) {
+        return;
+    }
+    if (!assets->is_array()) {
+        root.erase(assets);
+        return;
+    }
+    Json kept = Json::array();
+    for (Json& asset : *assets) {
+        const Json* layers = member(asset, "layers");
+        if (layers && layers->is_array()) {
+            for (const char* key : {"p", "u", "e"}) {
+                asset.erase(key);
+            }
+            kept.push_back(std::move(asset));
+        }
+    }
+    *assets = std::move(kept);
+}
+
+void writeValue(const Json& value, std::string& text);
+
+void writeMember(const std::string& key, const Json& value, std::string& text)
+{
+    text += text.back() == '{' ? "" : ",";
+    text += Json(key).dump();
+    text += ':';
+    writeValue(value, text);
+}
+
+/// The renderer forgets what stands before "ty" in an object.
+void writeValue(const Json& value, std::string& text)
+{
+    if (value.is_object()) {
+        text += '{';
+        if (const Json* type = member(value, "ty")) {
+            writeMember("ty", *type, text);
+        }
+        for (const auto& [key, item] : value.items()) {
+            if (key != "ty") {
+                writeMember(key, item, text);
+            }
+        }
+        text += '}';
+    } else if (value.is_array()) {
+        text += '[';
+        for (const Json& item : value) {
+            text += text.back() == '[' ? "" : ",";
+            writeValue(item, text);
+        }
+        text += ']';
+    } else {
+        text += value.dump();
+    }
+}
+
+} // namespace
+
+Outcome<AnimationDocument> checkAnimationDocument(std::string_view document)
+{
+    auto read = readAnimationDocument(document);
+    if (!read) {
+        return read.error();
+    }
+    Json root = std::move(read).value();
+    const auto width = numberOf(root, "w");
+    const auto height = numberOf(root, "h");
+    const auto frameRate = numberOf(root, "fr");
+    const Json* layers = member(root, "layers");
+    if (!isWithin(width, 1, kLargestExtent) || !isWithin(height, 1, kLargestExtent) ||
+        !isWithin(frameRate, 1, kLargestFrameRate) || !layers || !layers->is_array()) {
+        return unusableAnimation("no composition of a usable size and frame rate");
+    }
+    dropFileAssets(root);
+    if (auto error = mendValues(root)) {
+        return *error;
+    }
+    const auto frames = useWholeFrames(root);
+    if (!frames || *frames < 1 || *frames > kMostFrames) {
+        return unusableAnimation("no usable number of frames");
+    }
+    if (LayerCount(root).total().value_or(kMostLayers + 1) > kMostLayers) {
+        return unusableAnimation("too many layers");
+    }
+    AnimationDocument usable{.json = {},
+                             .size = {.width = *width, .height = *height},
+                             .frameRate = *frameRate,
+                             .frameCount = static_cast<int>(*frames)};
+    usable.json.reserve(document.size());
+    writeValue(root, usable.json);
+    return usable;
+}
+
+} // namespace orken

@@ -1,0 +1,81 @@
+#include "linux/animation/RendererSpawn.h"
+
+#include "linux/renderer/Protocol.h"
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <unistd.h>
+
+#include <csignal>
+
+namespace orken::desktop {
+
+namespace {
+
+/// Above the places, so that none is overwritten before it is moved.
+constexpr int kOutOfTheWay = 10;
+
+/// What happens in the new process before the program runs.
+class Preparation {
+public:
+    explicit Preparation(const RendererDescriptors& descriptors)
+    {
+        posix_spawn_file_actions_init(&actions_);
+        posix_spawnattr_init(&attributes_);
+        const std::pair<int, int> moves[] = {{descriptors.socket, renderer::kSocket},
+                                             {descriptors.pixels, renderer::kPixels},
+                                             {descriptors.document, renderer::kDocument}};
+        int aside = kOutOfTheWay;
+        for (const auto& [from, to] : moves) {
+            posix_spawn_file_actions_adddup2(&actions_, from, aside++);
+        }
+        for (const auto& [from, to] : moves) {
+            posix_spawn_file_actions_adddup2(&actions_, to + kOutOfTheWay - renderer::kSocket, to);
+        }
+        posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+        posix_spawn_file_actions_addopen(&actions_, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+        posix_spawn_file_actions_addclosefrom_np(&actions_, renderer::kDocument + 1);
+
+        sigset_t none;
+        sigemptyset(&none);
+        sigset_t all;
+        sigfillset(&all);
+        posix_spawnattr_setsigmask(&attributes_, &none);
+        posix_spawnattr_setsigdefault(&attributes_, &all);
+        posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
+    }
+
+    Preparation(const Preparation&) = delete;
+    Preparation& operator=(const Preparation&) = delete;
+
+    ~Preparation()
+    {
+        posix_spawn_file_actions_destroy(&actions_);
+        posix_spawnattr_destroy(&attributes_);
+    }
+
+    [[nodiscard]] const posix_spawn_file_actions_t* actions() const { return &actions_; }
+
+    [[nodiscard]] const posix_spawnattr_t* attributes() const { return &attributes_; }
+
+private:
+    posix_spawn_file_actions_t actions_{};
+    posix_spawnattr_t attributes_{};
+};
+
+} // namespace
+
+std::optional<pid_t> spawnRenderer(const std::filesystem::path& program, const RendererDescriptors& descriptors)
+{
+    const Preparation preparation(descriptors);
+    std::string name = program.filename();
+    char* arguments[] = {name.data(), nullptr};
+    char* environment[] = {nullptr};
+    pid_t process = 0;
+    // Shares this process's memory until the program runs: nothing is copied, however large the client is.
+    const int error =
+        posix_spawn(&process, program.c_str(), preparation.actions(), preparation.attributes(), arguments, environment);
+    return error == 0 ? std::optional(process) : std::nullopt;
+}
+
+} // namespace orken::desktop

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "linux/GObjectPtr.h"
+#include "linux/WidgetView.h"
+#include "linux/animation/RendererProcess.h"
+#include "linux/gtk/AnimationArea.h"
+#include "linux/gtk/FrameTicks.h"
+#include "linux/gtk/SeenWatch.h"
+#include "platform/AnimationSurface.h"
+
+#include <optional>
+
+namespace orken::desktop {
+
+/// A widget whose frames are drawn by a renderer of its own, one ahead of the screen. The renderer runs from the
+/// opening of a document and as long as the widget can be seen. Main thread only.
+class DesktopAnimationSurface final : public AnimationSurface,
+                                      public WidgetView,
+                                      public std::enable_shared_from_this<DesktopAnimationSurface> {
+public:
+    DesktopAnimationSurface(Size size, std::filesystem::path renderer);
+    ~DesktopAnimationSurface() override;
+
+    [[nodiscard]] void* native() override { return static_cast<WidgetView*>(this); }
+
+    [[nodiscard]] GtkWidget* widget() const override { return area_.get(); }
+
+    void becameEnabled() override {}
+
+    [[nodiscard]] Size bounds() const override;
+    void setOnResize(std::function<void()> callback) override;
+    void open(AnimationDocument document, Events events) override;
+    void close() override;
+    void setPlacement(const Rect& frame, LottieContentMode mode) override;
+    void show(int frame, int next) override;
+    void setFrameTick(FrameTick tick) override;
+
+private:
+    /// A frame in a size in device pixels.
+    struct Picture {
+        int frame = 0;
+        int width = 0;
+        int height = 0;
+        bool operator==(const Picture&) const = default;
+    };
+
+    struct Drawn {
+        Picture picture;
+        GObjectPtr<GdkTexture> texture;
+    };
+
+    void seenChanged();
+    void startTicks();
+    void startRenderer();
+    void requestWhatIsMissing();
+    void request(const Picture& picture);
+    void drawn();
+    void rendererFailed();
+    void present();
+    [[nodiscard]] Picture pictureOf(int frame) const;
+    [[nodiscard]] PicturePlace place() const;
+
+    std::filesystem::path program_;
+    GObjectPtr<GtkWidget> area_;
+    Size initialSize_;
+    std::function<void()> onResize_;
+    FrameTick tick_;
+
+    std::optional<AnimationDocument> document_;
+    Events events_;
+    bool isOpen_ = false;
+    Rect frame_;
+    LottieContentMode mode_ = LottieContentMode::scaleAspectFit;
+
+    std::unique_ptr<RendererProcess> renderer_;
+    std::optional<Picture> requested_;
+    std::optional<int> wanted_;
+    std::optional<int> next_;
+    std::optional<Drawn> shown_;
+    std::optional<Drawn> ahead_;
+
+    SeenWatch seen_;
+    FrameTicks ticks_;
+    SignalConnection scaleChanged_;
+};
+
+class DesktopAnimationSurfaces final : public AnimationSurfaces {
+public:
+    [[nodiscard]] std::shared_ptr<AnimationSurface> make(Size size) override;
+};
+
+} // namespace orken::desktop

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "linux/SignalConnection.h"
+
+#include <gtk/gtk.h>
+
+#include <functional>
+#include <vector>
+
+namespace orken::desktop {
+
+/// Tells whether a widget can be seen: it is mapped, neither it nor anything around it has opacity 0, and its window is
+/// not minimised. The toolkit itself stops drawing then, but neither its frame ticks nor anybody else. Main thread
+/// only.
+class SeenWatch {
+public:
+    /// `changed` is called after each change. It may not end this object.
+    SeenWatch(GtkWidget* widget, std::function<void()> changed);
+
+    [[nodiscard]] bool isSeen() const { return isSeen_; }
+
+private:
+    void mapped();
+    void unmapped();
+    void look();
+    [[nodiscard]] bool canBeSeen() const;
+
+    GtkWidget* widget_;
+    std::function<void()> changed_;
+    bool isSeen_ = false;
+    std::vector<SignalConnection> mapping_;
+    /// To what is around the widget, while it is mapped.
+    std::vector<SignalConnection> surroundings_;
+};
+
+} // namespace orken::desktop
