@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Alerts.h"
+#include "platform/AnimationSurface.h"
 #include "platform/Application.h"
 #include "platform/BrowserView.h"
 #include "platform/ContentsReader.h"
@@ -33,6 +34,7 @@ struct ContractPorts {
     ContentsReader& contentsReader;
     BrowserViews& browserViews;
     WebsiteDataStore& websiteData;
+    AnimationSurfaces& animationSurfaces;
 };
 
 /// One desktop under the tests that every desktop has to pass: its ports, and what only its outside can do.

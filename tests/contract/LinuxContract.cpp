@@ -98,7 +98,7 @@ public:
     {
         return {desktop_.mainQueue,      desktop_.timers, desktop_.notifications, desktop_.windows,
                 desktop_.application,    desktop_.alerts, desktop_.files,         desktop_.urlSession,
-                desktop_.contentsReader, desktop_.engine, desktop_.engine};
+                desktop_.contentsReader, desktop_.engine, desktop_.engine,        desktop_.animationSurfaces};
     }
 
 private:

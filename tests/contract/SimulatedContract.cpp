@@ -36,7 +36,7 @@ public:
     {
         return {desktop_.loop,        desktop_.loop,         desktop_.notifications, desktop_.windows,
                 desktop_.application, desktop_.alerts,       desktop_.files,         desktop_.network,
-                desktop_.network,     desktop_.browserViews, desktop_.websiteData};
+                desktop_.network,     desktop_.browserViews, desktop_.websiteData,   desktop_.animationSurfaces};
     }
 
 private:

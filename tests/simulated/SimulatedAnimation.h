@@ -34,7 +34,7 @@ public:
         failed_ = events.failed;
         loop_.later(Seconds{0.02}, [this, weak = weak_, generation = generation_, answer = events.opened] {
             if (weak.lock() && generation == generation_) {
-                const bool works = renderer_ == Renderer::works;
+                const bool works = renderer_ == Renderer::works && !opened->json.empty();
                 works ? void(isOpen_ = true) : close();
                 answer(works);
             }
