@@ -33,8 +33,9 @@ Answer login(const Request& request)
 
 Answer video(std::string_view number)
 {
-    return number == "1" || number == "2" || number == "3" ? page("video.html", {{"number", std::string(number)}})
-                                                           : statusPage(404);
+    constexpr unsigned kLessons = 5;
+    return wholeNumber(number, kLessons).value_or(0) > 0 ? page("video.html", {{"number", std::string(number)}})
+                                                         : statusPage(404);
 }
 
 Answer pdf(const Request& request)
