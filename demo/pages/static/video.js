@@ -31,9 +31,6 @@ video.addEventListener('pause', () => {
 });
 // Every turn of the loop begins with one.
 video.addEventListener('playing', () => report('/demo/seen', { what: 'playing' }), { once: true });
-video.addEventListener('timeupdate', () => {
-    document.getElementById('position').value = video.currentTime / video.duration || 0;
-});
 if (new URLSearchParams(location.search).get('paused') !== '1') {
     play();
 }
