@@ -39,7 +39,11 @@ struct Plane {
         return static_cast<std::size_t>(width()) * static_cast<unsigned>(height());
     }
 
-    std::uint8_t& at(int x, int y) { return pixels[static_cast<std::size_t>(y * width() + x)]; }
+    std::uint8_t& at(int x, int y)
+    {
+        const int place = y * width() + x;
+        return pixels[static_cast<std::size_t>(place)];
+    }
 };
 
 class Picture {
@@ -125,12 +129,13 @@ int main()
     static Picture board;
     static Picture frame;
     drawAxes(board);
-    double drawn = kMargin;
+    // In half pixels, so that no gap shows where the curve is steep.
+    int drawn = 2 * kMargin;
     for (int number = 1; number <= kFrames; ++number) {
         const double x =
             kMargin + (kWidth - 2.0 * kMargin) * std::min(1.0, static_cast<double>(number) / kDrawingFrames);
-        for (; drawn <= x; drawn += 0.5) {
-            board.disc(drawn, heightAt(drawn), 3, kCurve);
+        for (; drawn <= 2 * x; ++drawn) {
+            board.disc(drawn / 2.0, heightAt(drawn / 2.0), 3, kCurve);
         }
         frame = board;
         frame.disc(x, heightAt(x), 12, kPoint);
