@@ -37,6 +37,14 @@ void applyFirstPage(Options& options, const std::string& value)
     options.firstPage = value;
 }
 
+void applyAnimation(Options& options, const std::string& value)
+{
+    if (!animation(value)) {
+        throw Failure("--animation takes one of " + animationNames() + ", not \"" + value + "\"");
+    }
+    options.animation = value;
+}
+
 void applyEcho(Options& options, const std::string& value)
 {
     static const std::map<std::string_view, EchoMode> kModes = {
@@ -66,6 +74,7 @@ const std::map<std::string, Apply>& optionsWithValue()
         {"--first-page", applyFirstPage},
         {"--required-version", [](Options& o, const std::string& value) { o.requiredVersion = value; }},
         {"--settings-file", [](Options& o, const std::string& value) { o.settingsFile = absolutePath(value); }},
+        {"--animation", applyAnimation},
         {"--echo", applyEcho},
     };
     return kOptions;
@@ -87,6 +96,7 @@ std::string_view usage()
            "         [--first-page PATH]        where signing in leads to; default the login page\n"
            "         [--required-version TEXT]  macVersion of the settings document; default 1.0\n"
            "         [--settings-file PATH]     bytes of the settings document, read at every request\n"
+           "         [--animation NAME]         the waiting animation, good or bad; default good\n"
            "         [--echo MODE]              ok, empty, blank, binary, slow:SECONDS, refuse, error500\n"
            "         [--with-parent]            end when the parent process ends\n";
 }

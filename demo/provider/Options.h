@@ -1,5 +1,7 @@
 #pragma once
 
+#include "provider/Animations.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <optional>
@@ -34,8 +36,10 @@ struct Options {
     /// Where signing in leads to: path and query.
     std::string firstPage = "/accounts/Login?ReturnUrl=%2Fcourse";
     std::string requiredVersion = "1.0";
-    /// Takes the place of the settings document with `requiredVersion`.
+    /// Takes the place of the settings document with `requiredVersion`; read at every request.
     std::optional<std::filesystem::path> settingsFile;
+    /// Name of the one that clients are shown while they wait.
+    std::string animation{kGoodAnimation};
     EchoMode echo = EchoMode::ok;
     /// Seconds.
     double echoDelay = 0;

@@ -3,6 +3,7 @@
 #include <gio/gio.h>
 
 #include <cassert>
+#include <cstddef>
 
 /// The files of demo/pages, as glib-compile-resources has put them into this program.
 extern "C" GResource* orken_demo_get_resource(void);
@@ -17,6 +18,7 @@ std::string_view contentType(std::string_view name)
         {"css", "text/css; charset=utf-8"},
         {"js", "text/javascript; charset=utf-8"},
         {"svg", "image/svg+xml"},
+        {"webm", "video/webm"},
     };
     const auto type = kTypes.find(name.substr(name.rfind('.') + 1));
     return type == kTypes.end() ? "application/octet-stream" : type->second;
@@ -30,6 +32,21 @@ std::string_view wordsFor(unsigned status)
     };
     const auto words = kWords.find(status);
     return words == kWords.end() ? "Sayfa gösterilemiyor." : words->second;
+}
+
+/// With every "{{name}}" replaced in one pass, so that a value which holds a marker itself is shown as it is.
+std::string filled(std::string_view text, const std::map<std::string, std::string>& values)
+{
+    std::string result;
+    for (auto open = text.find("{{"); open != std::string_view::npos; open = text.find("{{")) {
+        const auto close = text.find("}}", open);
+        assert(close != std::string_view::npos);
+        result += text.substr(0, open);
+        result += values.at(std::string(text.substr(open + 2, close - open - 2)));
+        text.remove_prefix(close + 2);
+    }
+    result += text;
+    return result;
 }
 
 } // namespace
@@ -79,25 +96,25 @@ std::optional<std::string> pageFile(std::string_view name)
 Answer page(std::string_view name, const std::map<std::string, std::string>& values)
 {
     const auto file = pageFile(name);
-    assert(file);
-    std::string text;
-    std::string_view rest = *file;
-    // One pass, so that a value which holds a marker itself is shown as it is.
-    for (auto open = rest.find("{{"); open != std::string_view::npos; open = rest.find("{{")) {
-        const auto close = rest.find("}}", open);
-        assert(close != std::string_view::npos);
-        text += rest.substr(0, open);
-        text += values.at(std::string(rest.substr(open + 2, close - open - 2)));
-        rest.remove_prefix(close + 2);
-    }
-    text += rest;
-    return {
-        .contentType = "text/html; charset=utf-8", .body = std::move(text), .headers = {{"Cache-Control", "no-cache"}}};
+    const auto layout = pageFile("layout.html");
+    assert(file && layout);
+    // What stands before the main element belongs into the head.
+    const std::size_t main = file->find("<main");
+    assert(main != std::string::npos);
+    std::map<std::string, std::string> parts = {{"head", filled(file->substr(0, main), values)},
+                                                {"content", filled(file->substr(main), values)}};
+    const auto ownName = values.find("page");
+    parts["page"] = ownName == values.end() ? name.substr(0, name.find('.')) : ownName->second;
+    return {.contentType = "text/html; charset=utf-8",
+            .body = filled(*layout, parts),
+            .headers = {{"Cache-Control", "no-cache"}}};
 }
 
 Answer statusPage(unsigned status)
 {
-    Answer answer = page("status.html", {{"status", std::to_string(status)}, {"text", std::string(wordsFor(status))}});
+    const std::string number = std::to_string(status);
+    Answer answer = page("status.html",
+                         {{"page", "status-" + number}, {"status", number}, {"text", std::string(wordsFor(status))}});
     answer.status = status;
     return answer;
 }

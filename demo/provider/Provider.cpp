@@ -51,8 +51,7 @@ desktop::GObjectPtr<GSocket> makeRefusingSocket(std::uint16_t& port)
 
 Provider::Provider(const Options& options)
     : readyFile_(options.readyFile), logFile_(options.log), log_(options.log),
-      identity_(makeServerIdentity(options.certificates)), certificate_(certificateOf(identity_)),
-      site_(options.firstPage, options.requiredVersion, options.settingsFile)
+      identity_(makeServerIdentity(options.certificates)), certificate_(certificateOf(identity_)), site_(options)
 {
     // Whoever waits for the file must not find an earlier provider's.
     std::error_code ignored;

@@ -1,5 +1,6 @@
 #include "provider/Site.h"
 
+#include "provider/Animations.h"
 #include "provider/DeviceField.h"
 #include "provider/Number.h"
 #include "provider/Pages.h"
@@ -13,6 +14,8 @@
 namespace orken::demo {
 
 namespace {
+
+constexpr std::string_view kJson = ".json";
 
 Answer notAllowed(const char* allowed)
 {
@@ -33,8 +36,9 @@ Answer login(const Request& request)
 
 Answer video(std::string_view number)
 {
-    return number == "1" || number == "2" || number == "3" ? page("video.html", {{"number", std::string(number)}})
-                                                           : statusPage(404);
+    constexpr unsigned kLessons = 5;
+    return wholeNumber(number, kLessons).value_or(0) > 0 ? page("video.html", {{"number", std::string(number)}})
+                                                         : statusPage(404);
 }
 
 Answer pdf(const Request& request)
@@ -44,13 +48,6 @@ Answer pdf(const Request& request)
         return statusPage(400);
     }
     return {.contentType = "application/pdf", .body = makePdf(*size), .headers = {{"Cache-Control", "no-store"}}};
-}
-
-Answer animation(const Request&)
-{
-    return {.contentType = "application/json",
-            .body = pageFile("animation.json").value(),
-            .headers = {{"Cache-Control", "no-cache"}}};
 }
 
 Answer diskImage(const Request&)
@@ -125,13 +122,11 @@ std::optional<std::string_view> after(std::string_view prefix, std::string_view 
 
 } // namespace
 
-Site::Site(std::string firstPage, std::string requiredVersion, std::optional<std::filesystem::path> settingsFile)
-    : firstPage_(std::move(firstPage)), requiredVersion_(std::move(requiredVersion)),
-      settingsFile_(std::move(settingsFile))
+Site::Site(Options options) : options_(std::move(options))
 {
     const auto fixedPage = [](const char* name) { return [name](const Request&) { return page(name); }; };
     const auto toFirstPage = [this](const Request&) {
-        return Answer{.status = 302, .headers = {{"Location", firstPage_}, {"Cache-Control", "no-store"}}};
+        return Answer{.status = 302, .headers = {{"Location", options_.firstPage}, {"Cache-Control", "no-store"}}};
     };
     pages_ = {
         {"/", fixedPage("main.html")},
@@ -143,8 +138,9 @@ Site::Site(std::string firstPage, std::string requiredVersion, std::optional<std
         {"/documents/ornek.pdf", pdf},
         {"/settings/xpp.json", [this](const Request&) { return settings(); }},
         {"/program/mac/orkenv1.dmg", diskImage},
-        {"/animation.json", animation},
-        {"/a/4f99977e-1178-11ee-ba11-6f7eb2c6e070/BYMbhjCcMQ.json", animation},
+        {"/animation.json", [](const Request&) { return animation(kGoodAnimation).value(); }},
+        {"/a/4f99977e-1178-11ee-ba11-6f7eb2c6e070/BYMbhjCcMQ.json",
+         [this](const Request&) { return animation(options_.animation).value(); }},
         {"/slow", slow},
         {"/never", never},
         {"/tries", fixedPage("tries.html")},
@@ -171,6 +167,9 @@ Answer Site::answer(const Request& request)
     if (const auto number = after("/course/video/playlist/", request.path)) {
         return video(*number);
     }
+    if (const auto file = after("/animation/bad/", request.path); file && file->ends_with(kJson)) {
+        return animation(file->substr(0, file->size() - kJson.size())).value_or(statusPage(404));
+    }
     if (const auto name = after("/static/", request.path)) {
         return asset(*name).value_or(statusPage(404));
     }
@@ -180,10 +179,10 @@ Answer Site::answer(const Request& request)
 Answer Site::settings() const
 {
     Answer answer{.contentType = "application/json", .headers = {{"Cache-Control", "no-store"}}};
-    if (!settingsFile_) {
-        answer.body = nlohmann::json{{"macVersion", requiredVersion_}}.dump(-1, ' ', false,
-                                                                            nlohmann::json::error_handler_t::replace);
-    } else if (auto bytes = readWholeFile(*settingsFile_)) {
+    if (!options_.settingsFile) {
+        answer.body = nlohmann::json{{"macVersion", options_.requiredVersion}}.dump(
+            -1, ' ', false, nlohmann::json::error_handler_t::replace);
+    } else if (auto bytes = readWholeFile(*options_.settingsFile)) {
         answer.body = std::move(*bytes);
     } else {
         return statusPage(500);
