@@ -112,12 +112,23 @@ bool hasTooManyCopies(const Json& object)
     });
 }
 
-/// A layer without its picture keeps its place: others count on it.
-void dropPicture(Json& object)
+void mendLayers(Json& owner)
 {
-    if (member(object, "layers") == nullptr && numberOf(object, "ty") == kImageLayer) {
-        object["ty"] = kNullLayer;
-        object.erase("refId");
+    const auto layers = owner.find("layers");
+    if (layers == owner.end() || !layers->is_array()) {
+        return;
+    }
+    for (Json& layer : *layers) {
+        if (!layer.is_object()) {
+            continue;
+        }
+        // A layer without its picture keeps its place: others count on it.
+        if (numberOf(layer, "ty") == kImageLayer) {
+            layer["ty"] = kNullLayer;
+            layer.erase("refId");
+        }
+        // Where it is not said to be flat, the renderer takes it for three-dimensional and does not turn it.
+        layer.emplace("ddd", 0);
     }
 }
 
@@ -129,7 +140,7 @@ std::optional<PlatformError> mendValues(Json& value)
     }
     if (value.is_object()) {
         clampEasing(value);
-        dropPicture(value);
+        mendLayers(value);
         if (hasTooManyCopies(value)) {
             return unusableAnimation("a repeater makes too many copies");
         }

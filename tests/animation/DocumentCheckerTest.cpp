@@ -80,7 +80,9 @@ TEST(DocumentChecker, writesADocumentAsTheRendererNeedsIt)
          HasSubstr("\"b\":{\"ty\":4,\"a\":\"ş\\\"\",\"it\":[{\"ty\":\"gr\",\"nm\":\"x\"}]}")},
         {"pictures leave their assets", with(R"("assets":[{"id":"i","u":"../","p":"a.png","w":1,"h":1}])"),
          HasSubstr("\"assets\":[]")},
-        {"and their layers a gap", with(R"("a":[{"ty":2,"refId":"i","ind":1}])"), HasSubstr("[{\"ty\":3,\"ind\":1}]")},
+        {"and their layers a gap",
+         R"({"w":1,"h":1,"fr":1,"ip":0,"op":1,"layers":[{"ty":2,"refId":"i","ind":1},{"ty":4,"ddd":1,"ks":{}}]})",
+         HasSubstr(R"([{"ty":3,"ddd":0,"ind":1},{"ty":4,"ddd":1,"ks":{}}])")},
         {"compositions stay", with(R"("assets":[{"id":"c","p":"x","layers":[]}])"),
          HasSubstr("\"assets\":[{\"id\":\"c\",\"layers\":[]}]")},
         {"easing handles are cut", with(R"("k":[{"t":0,"i":{"x":[2],"y":1e7},"o":{"x":-1,"y":[-1e7,0.5]}}])"),
@@ -93,7 +95,7 @@ TEST(DocumentChecker, writesADocumentAsTheRendererNeedsIt)
          R"("assets":[{"id":"c","layers":[{"ip":-3,"k":[{"t":-3}]}]}]})",
          testing::AllOf(
              HasSubstr(R"("ip":0.0,"ks":{"o":{"a":1,"k":[{"s":[0],"t":0.0},{"s":[9],"t":15.0}]}},"op":30.0)"),
-             HasSubstr(R"("layers":[{"ip":-3,"k":[{"t":-3}]}])"))},
+             HasSubstr(R"("layers":[{"ddd":0,"ip":-3,"k":[{"t":-3}]}])"))},
     };
 
     for (const auto& test : cases) {
