@@ -26,9 +26,10 @@ using namespace orken;
 
 constexpr int kPasses = 2000;
 constexpr int kFrames = 600;
-constexpr const char* kVideoPage = "https://site.example/course/video/playlist/4?dnz=VeK%2BNwW6sUUS2r4LbCZxfmE%2B919zNpO"
-                                   "E%2Fot%2F9tiKF4yEXpSCmkyDgSK%2B60hJSVJQ&hash=%2FVn1jOw8U5hDiCY7fdWXIrTPKA4uBWu1Vpr"
-                                   "wdHtpICI%3D";
+constexpr const char* kVideoPage =
+    "https://site.example/course/video/playlist/4?dnz=VeK%2BNwW6sUUS2r4LbCZxfmE%2B919zNpO"
+    "E%2Fot%2F9tiKF4yEXpSCmkyDgSK%2B60hJSVJQ&hash=%2FVn1jOw8U5hDiCY7fdWXIrTPKA4uBWu1Vpr"
+    "wdHtpICI%3D";
 
 double threadMicroseconds()
 {
@@ -74,8 +75,8 @@ public:
 /// Passes over a video page that has been handled, with their answers, lines going to a file.
 std::vector<double> measurePasses(desktop::Desktop& desktop)
 {
-    OtherApplications others(
-        {desktop.runningApplications, desktop.alerts, desktop.application, desktop.console}, "com.orken.bench");
+    OtherApplications others({desktop.runningApplications, desktop.alerts, desktop.application, desktop.console},
+                             "com.orken.bench");
     WindowControl control(desktop.windows, desktop.notifications, desktop.keyMonitors, desktop.console);
     PeriodicCheck check({desktop.timers, desktop.mainQueue, control, others});
     PageValues values;
@@ -85,8 +86,8 @@ std::vector<double> measurePasses(desktop::Desktop& desktop)
     model->webView = page;
     model->videoUrl = kVideoPage;
     model->removedIdentity = true;
-    const ScriptResult geometry(std::optional<ScriptValue>(
-        ScriptText(R"({"maxWidth":960,"maxHeight":540,"xPosition":152,"yPosition":190})")));
+    const ScriptResult geometry(
+        std::optional<ScriptValue>(ScriptText(R"({"maxWidth":960,"maxHeight":540,"xPosition":152,"yPosition":190})")));
     std::vector<double> costs;
     for (int i = 0; i < kPasses; ++i) {
         costs.push_back(costOf([&] {

@@ -2,7 +2,7 @@
 
 namespace orken {
 
-LottieView::LottieView(Values values, const AnimationServices& services) : services_(services)
+LottieView::LottieView(const Values& values, const AnimationServices& services) : services_(services)
 {
     take(values);
 }

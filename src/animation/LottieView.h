@@ -22,7 +22,7 @@ public:
         double value = 0;
     };
 
-    LottieView(Values values, const AnimationServices& services);
+    LottieView(const Values& values, const AnimationServices& services);
 
     /// The view at its place in a screen.
     [[nodiscard]] static Element element(const Values& values, const AnimationServices& services);

@@ -9,7 +9,6 @@ namespace {
 using simulated::SimulatedAnimationSurface;
 using testing::Each;
 using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::Le;
 
 constexpr const char* kUrl = "https://animation.example/a.json";

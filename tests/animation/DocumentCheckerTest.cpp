@@ -23,7 +23,8 @@ std::string doubled(int compositions)
     std::string assets = R"({"id":"0","layers":[{},{}]})";
     for (int i = 1; i < compositions; ++i) {
         const auto before = R"({"refId":")" + std::to_string(i - 1) + R"("})";
-        assets += R"(,{"id":")" + std::to_string(i) + R"(","layers":[)" + before + "," + before + "]}";
+        assets.append(R"(,{"id":")").append(std::to_string(i)).append(R"(","layers":[)");
+        assets.append(before).append(",").append(before).append("]}");
     }
     return R"({"w":1,"h":1,"fr":1,"ip":0,"op":1,"layers":[{"refId":")" + std::to_string(compositions - 1) +
            R"("}],"assets":[)" + assets + "]}";

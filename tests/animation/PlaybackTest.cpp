@@ -13,13 +13,13 @@ constexpr double kInfinite = std::numeric_limits<double>::infinity();
 TEST(Playback, runsThroughItsRangeAsOftenAsTheLoopModeSays)
 {
     const struct {
-        const char* name;
+        const char* name = nullptr;
         LUProgressRange range;
         LottieLoopMode loopMode;
-        double speed;
-        double seconds;
-        double progress;
-        bool hasEnded;
+        double speed = 1;
+        double seconds = 0;
+        double progress = 0;
+        bool hasEnded = false;
     } cases[] = {
         {"half way", {0, 1}, LottieLoopMode::playOnce(), 1, 1, 0.5, false},
         {"ends at the end of its range", {0.25, 0.75}, LottieLoopMode::playOnce(), 1, 5, 0.75, true},

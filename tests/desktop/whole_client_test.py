@@ -32,8 +32,11 @@ class Road(ClientCase):
 
         requests = provider.requests()
         site = [request for request in requests if request["headers"].get("user-agent") is not None]
-        self.assertEqual(requests[0]["path"], "/settings/xpp.json")
-        self.assertEqual(requests[1]["server"], "echo", "the address is known before the page is asked for")
+        # The gate's answer may come while the click is already on its way.
+        early = [request for request in requests if request not in site]
+        self.assertIn("/settings/xpp.json", [request["path"] for request in early[:2]])
+        echo = next(request for request in requests if request["server"] == "echo")
+        self.assertLess(requests.index(echo), requests.index(site[0]), "the address is known before the page is asked for")
         self.assertEqual(site[0]["path"], "//accounts/login")
         self.assertEqual(site[0]["query"], f"param={serial()}{LOGIN_TAIL}")
         self.assertEqual(site[1]["path"], "/accounts/Login")

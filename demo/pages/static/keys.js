@@ -1,7 +1,9 @@
 'use strict';
 
-// Shows and reports every key that reaches the page.
+let reported = Promise.resolve();
+
+// Shows and reports every key that reaches the page, one after the other.
 window.addEventListener('keydown', event => {
     document.getElementById('keys').append(event.key + ' ');
-    report('/demo/seen', { what: 'key', key: event.key });
+    reported = reported.then(() => report('/demo/seen', { what: 'key', key: event.key }));
 }, true);
