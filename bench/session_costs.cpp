@@ -12,7 +12,6 @@
 #include <gtk/gtk.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
@@ -26,6 +25,7 @@ using namespace orken;
 
 constexpr int kPasses = 2000;
 constexpr int kFrames = 600;
+constexpr unsigned kPatience = 120;
 constexpr const char* kVideoPage =
     "https://site.example/course/video/playlist/4?dnz=VeK%2BNwW6sUUS2r4LbCZxfmE%2B919zNpO"
     "E%2Fot%2F9tiKF4yEXpSCmkyDgSK%2B60hJSVJQ&hash=%2FVn1jOw8U5hDiCY7fdWXIrTPKA4uBWu1Vpr"
@@ -230,6 +230,8 @@ int main(int count, char** arguments)
         std::fputs("usage: session_costs ANIMATION\n", stderr);
         return EXIT_FAILURE;
     }
+    // A figure that does not come ends this program.
+    alarm(kPatience);
     std::ifstream file(arguments[1]);
     const std::string text{std::istreambuf_iterator<char>(file), {}};
     std::optional<AnimationDocument> document;

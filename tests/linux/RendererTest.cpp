@@ -6,6 +6,7 @@
 #include <cstring>
 #include <fstream>
 #include <sstream>
+#include <unistd.h>
 #include <vector>
 
 // Real renderer processes, with the documents that the checker lets through.
@@ -75,6 +76,16 @@ std::size_t children()
 {
     std::ifstream list("/proc/thread-self/children");
     return static_cast<std::size_t>(std::distance(std::istream_iterator<int>(list), std::istream_iterator<int>()));
+}
+
+TEST(RendererProcess, worksWhateverNumbersItsDescriptorsHave)
+{
+    std::vector<FileDescriptor> taken;
+    for (int i = 0; i < 12; ++i) {
+        Renderer renderer(document(kRedSquare));
+        EXPECT_FALSE(renderer.draw().empty()) << i << " more taken";
+        taken.emplace_back(dup(STDERR_FILENO));
+    }
 }
 
 TEST(RendererProcess, drawsFramesAndEndsWithItsOwner)

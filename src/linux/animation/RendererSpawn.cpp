@@ -6,14 +6,12 @@
 #include <spawn.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 
 namespace orken::desktop {
 
 namespace {
-
-/// Above the places, so that none is overwritten before it is moved.
-constexpr int kOutOfTheWay = 10;
 
 /// What happens in the new process before the program runs.
 class Preparation {
@@ -25,12 +23,16 @@ public:
         const std::pair<int, int> moves[] = {{descriptors.socket, renderer::kSocket},
                                              {descriptors.pixels, renderer::kPixels},
                                              {descriptors.document, renderer::kDocument}};
-        int aside = kOutOfTheWay;
+        // First aside, to numbers that are neither a place nor one of these, so that none is overwritten before it is
+        // moved.
+        const int firstAside =
+            std::max({descriptors.socket, descriptors.pixels, descriptors.document, renderer::kDocument}) + 1;
+        int aside = firstAside;
         for (const auto& [from, to] : moves) {
             posix_spawn_file_actions_adddup2(&actions_, from, aside++);
         }
         for (const auto& [from, to] : moves) {
-            posix_spawn_file_actions_adddup2(&actions_, to + kOutOfTheWay - renderer::kSocket, to);
+            posix_spawn_file_actions_adddup2(&actions_, firstAside + to - renderer::kSocket, to);
         }
         posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
         posix_spawn_file_actions_addopen(&actions_, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
