@@ -35,6 +35,8 @@ void prepareProcess(bool renderNode)
     if (!renderNode) {
         // Software rendering through OpenGL takes twice as long to the first frame.
         g_setenv("GSK_RENDERER", "cairo", FALSE);
+        // Nor is it worth the loading of a software driver, which the toolkit does before the first window.
+        g_setenv("GDK_DEBUG", "gl-disable", FALSE);
     }
     if (g_file_test("/proc/driver/nvidia/version", G_FILE_TEST_EXISTS)) {
         // The driver shows black pages for the buffers that the engine shares in this way.

@@ -214,6 +214,9 @@ TEST(HttpSession, believesOnlyAKnownAuthority)
     EXPECT_THAT(bodyOf(get(stranger, server.url("/text"))), testing::HasSubstr("g-tls-error-quark"));
     EXPECT_THAT(bodyOf(get(lost, server.url("/text"))), testing::HasSubstr("g-tls-error-quark"));
     EXPECT_EQ(bodyOf(get(friendly, server.url("/text"))), "a\xF0la");
+    auto otherName = server.url("/text");
+    otherName.replace(otherName.find("127.0.0.1"), 9, "localhost");
+    EXPECT_THAT(bodyOf(get(friendly, otherName)), testing::HasSubstr("g-tls-error-quark"));
     std::filesystem::remove(identity);
     std::filesystem::remove(identity + ".cert");
 }

@@ -1,7 +1,7 @@
 #include "linux/services/HttpLoad.h"
 
 #include "foundation/Url.h"
-#include "linux/services/StandardConsole.h"
+#include "linux/services/TrustedAuthorities.h"
 
 #include <utility>
 
@@ -139,17 +139,7 @@ GObjectPtr<SoupSession> makeHttpSession(const HttpOptions& options)
 {
     auto session = GObjectPtr<SoupSession>::adopt(soup_session_new_with_options(
         "timeout", options.timeoutSeconds, "max-conns-per-host", kConnectionsPerHost, nullptr));
-    if (options.certificateAuthorityFile) {
-        GError* error = nullptr;
-        const auto authorities =
-            GObjectPtr<GTlsDatabase>::adopt(g_tls_file_database_new(options.certificateAuthorityFile->c_str(), &error));
-        if (authorities) {
-            soup_session_set_tls_database(session.get(), authorities.get());
-        } else {
-            // The system's authorities stay, so the server in question is refused rather than believed.
-            reportDiagnostic(GErrorPtr(error)->message);
-        }
-    }
+    soup_session_set_tls_database(session.get(), trustedAuthorities(options.certificateAuthorityFile).get());
     return session;
 }
 
