@@ -2,8 +2,10 @@
 """Compares the client with floors: bare programs that do the least the same libraries allow.
 
 Runs are interleaved (client, floor, client, floor, ...), each with a fresh process and a fresh home folder, on one
-virtual desktop with one demo provider. Prints medians with least and greatest value and writes every sample to a JSON
-file. `scripts/bench` builds what this needs.
+virtual desktop with one demo provider. Prints medians with least and greatest value, writes every sample to a JSON
+file, and ends with status 1 when a budget is exceeded. `scripts/bench` builds what this needs.
+
+The floors run with the libraries' defaults, but for memory: there the client's rendering settings are the floor's too.
 """
 
 import argparse
@@ -19,6 +21,8 @@ import time
 _ROOT = pathlib.Path(__file__).resolve().parent.parent
 sys.path.insert(0, str(_ROOT / "scripts"))
 
+from budgets import Budgets  # noqa: E402
+from measure_session import client_settings  # noqa: E402
 from virtual_desktop import Client, NotReached, Provider, VirtualDesktop, cpu_seconds, pss_kib, wait_for  # noqa: E402
 
 _TICK = 1.0 / os.sysconf("SC_CLK_TCK")
@@ -31,7 +35,7 @@ _MEASURES = (
     ("start_window", "exec to start window shown", "ms"),
     ("login_page", "click (floor: exec) to login page loaded", "ms"),
     ("cpu", "CPU of all processes until page loaded + 1 s", "s"),
-    ("memory", "memory (PSS) of all processes, page loaded + 1 s", "MiB"),
+    ("memory", "memory (PSS) of all processes, page loaded + 1 s", "MB"),
     ("exit", "SIGTERM to process gone", "ms"),
 )
 
@@ -45,12 +49,14 @@ class Bench:
         self._maps = desktop.watch_maps()
         self._provider = Provider(desktop, str(options.build / "demo/orken-demo-provider"))
         self._login_address = None
+        self._settings = None
         self.samples = {name: {"client": [], "floor": []} for name, _, _ in _MEASURES}
         self.idle_percent = None
 
     def round(self, counts):
         """One run of each program; `counts` is false for runs that only warm the machine up."""
-        for who, run in (("client", self._client), ("floor", self._floor_window), ("floor", self._floor_page)):
+        floors = (self._floor_window, self._floor_page, self._floor_memory)
+        for who, run in (("client", self._client), *(("floor", floor) for floor in floors)):
             for name, value in run().items():
                 if counts:
                     self.samples[name][who].append(value)
@@ -73,6 +79,7 @@ class Bench:
         clicked = client.open_application()
         page = self._provider.wait_for_page("login", since=clicked, guests=[client.guest])
         self._login_address = self._login_address or self._address_of_login()
+        self._settings = client_settings(self._desktop, client)
         return {
             "start_window": 1000 * (shown.time - client.guest.started),
             "login_page": 1000 * (page["t"] - clicked),
@@ -89,15 +96,19 @@ class Bench:
     def _floor_page(self):
         guest = self._spawn_floor("floor_webkit", self._login_address)
         page = self._provider.wait_for_page("login", since=guest.started, guests=[guest])
-        return {
-            "login_page": 1000 * (page["t"] - guest.started),
-            **self._at_rest_and_exit(guest, page["t"]),
-        }
+        figures = {"login_page": 1000 * (page["t"] - guest.started), **self._at_rest_and_exit(guest, page["t"])}
+        del figures["memory"]
+        return figures
+
+    def _floor_memory(self):
+        guest = self._spawn_floor("floor_webkit", self._login_address, environment=self._settings)
+        page = self._provider.wait_for_page("login", since=guest.started, guests=[guest])
+        return {"memory": self._at_rest_and_exit(guest, page["t"])["memory"]}
 
     def _at_rest_and_exit(self, guest, loaded):
         time.sleep(max(0.0, loaded + _AFTER_PAGE - time.monotonic()))
         tree = guest.tree()
-        figures = {"cpu": cpu_seconds(tree), "memory": pss_kib(tree) / 1024}
+        figures = {"cpu": cpu_seconds(tree), "memory": pss_kib(tree) * 1024 / 1e6}
         asked = guest.signal(signal.SIGTERM)
         figures["exit"] = 1000 * (guest.wait_exit() - asked)
         if guest.exit_status() != 0:
@@ -109,8 +120,9 @@ class Bench:
         program = str(self._options.build / "demo/orken-demo")
         return Client(self._desktop, program, self._provider, environment=self._environment())
 
-    def _spawn_floor(self, name, *arguments):
-        return self._desktop.spawn([str(self._options.floors / name), *arguments], environment=self._environment())
+    def _spawn_floor(self, name, *arguments, environment=None):
+        command = [str(self._options.floors / name), *arguments]
+        return self._desktop.spawn(command, environment=environment or self._environment())
 
     def _environment(self):
         """A fresh home, and no renderer prescribed: choosing one is part of what is measured."""
@@ -175,6 +187,21 @@ def _print_table(results):
         print(row.format(f"processor use of an idle start window, {idle['seconds']:g} s", "%", f"{idle['value']:.2f}", "", ""))
 
 
+def _status(results):
+    """0 when every budget holds. Ratios are of medians, and allow what a loaded machine adds."""
+    measures, budgets = results["measures"], Budgets()
+    budgets.check("start window, of a bare window's time", measures["start_window"]["ratio"], 1.2)
+    budgets.check("login page after the click, of a bare view's time from its start", measures["login_page"]["ratio"], 0.3)
+    budgets.check("processor time to the login page, of a bare view's", measures["cpu"]["ratio"], 1.15)
+    for name, text, limit, unit in (("memory", "memory", 20, "MB"), ("exit", "time to end", 250, "ms")):
+        sides = measures[name]
+        above = sides["client"]["median"] - sides["floor"]["median"]
+        budgets.check(f"{text} above a bare view's", above, limit, unit)
+    if results["idle_start_window"]["value"] is not None:
+        budgets.check("idle start window, all processes", results["idle_start_window"]["value"], 0.3, "% of a processor")
+    return budgets.status()
+
+
 def _options():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--runs", type=int, default=7, help="measured runs of each program")
@@ -205,7 +232,7 @@ def main():
     options.results.parent.mkdir(parents=True, exist_ok=True)
     options.results.write_text(json.dumps(results, indent=2) + "\n", encoding="utf-8")
     print(f"\nAll samples: {os.path.relpath(options.results)}")
-    return 0
+    return _status(results)
 
 
 if __name__ == "__main__":
