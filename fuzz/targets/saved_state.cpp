@@ -18,12 +18,8 @@ constexpr auto kGreatest = std::numeric_limits<std::int64_t>::max();
 
 std::optional<std::int64_t> counterIn(const Bytes& file)
 {
-    const auto list = readPropertyList(file);
-    if (!list || !list.value()) {
-        return std::nullopt;
-    }
-    const auto count = list.value()->find("restoreCount");
-    return count != list.value()->end() ? count->second : std::nullopt;
+    const auto list = readPropertyList(file, "restoreCount");
+    return list && list.value() ? list.value()->integer : std::nullopt;
 }
 
 std::int64_t raised(std::int64_t count)
