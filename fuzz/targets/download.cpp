@@ -17,8 +17,8 @@ struct Bed {
     void download(const std::string& address, const std::string& dataUrl)
     {
         desktop.browserViews.latest->onScript = [&](const auto&) {
-            return ScriptResult(
-                std::optional<ScriptValue>(ScriptDictionary{{"dataURL", dataUrl}, {"mimeType", std::string("application/pdf")}}));
+            return ScriptResult(std::optional<ScriptValue>(
+                ScriptDictionary{{"dataURL", dataUrl}, {"mimeType", std::string("application/pdf")}}));
         };
         desktop.alerts.answerNext("Aç");
         pdf.downloadBlob(*made, {.requestUrl = address}, [this](NavigationPolicy policy) {
