@@ -173,8 +173,8 @@ public:
         }
     }
 
-    /// Absent when compositions show one another in a ring.
-    [[nodiscard]] std::optional<int> total() const { return hasRing_ ? std::nullopt : std::optional(total_); }
+    /// Absent when compositions show one another in a ring, or in a chain of more than there may be layers.
+    [[nodiscard]] std::optional<int> total() const { return isEndless_ ? std::nullopt : std::optional(total_); }
 
 private:
     struct Composition {
@@ -185,11 +185,14 @@ private:
 
     int countOnce(Composition& composition)
     {
-        if (composition.isOpen) {
-            hasRing_ = true;
+        // A document holds far longer chains than the stack could follow.
+        if (composition.isOpen || depth_ == kMostLayers) {
+            isEndless_ = true;
         } else if (!composition.count) {
             composition.isOpen = true;
+            ++depth_;
             composition.count = count(composition.layers);
+            --depth_;
             composition.isOpen = false;
         }
         return composition.count.value_or(0);
@@ -213,7 +216,8 @@ private:
     }
 
     std::map<std::string, Composition> compositions_;
-    bool hasRing_ = false;
+    int depth_ = 0;
+    bool isEndless_ = false;
     int total_ = 0;
 };
 
@@ -295,10 +299,15 @@ Outcome<AnimationDocument> checkAnimationDocument(std::string_view document)
         return unusableAnimation("no composition of a usable size and frame rate");
     }
     dropFileAssets(root);
+    if (!isWithin(numberOf(root, "ip"), -kLargestNumber, kLargestNumber) ||
+        !isWithin(numberOf(root, "op"), -kLargestNumber, kLargestNumber)) {
+        return unusableAnimation("no usable first and last frame");
+    }
+    const auto frames = useWholeFrames(root);
+    // Times that were moved count as they are now.
     if (auto error = mendValues(root)) {
         return *error;
     }
-    const auto frames = useWholeFrames(root);
     if (!frames || *frames < 1 || *frames > kMostFrames) {
         return unusableAnimation("no usable number of frames");
     }

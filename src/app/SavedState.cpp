@@ -44,7 +44,7 @@ void SavedState::updateRestoreCount()
         printReadError(bytes.error());
         return;
     }
-    const auto list = readPropertyList(bytes.value());
+    const auto list = readPropertyList(bytes.value(), kRestoreCountKey);
     if (!list) {
         printReadError(list.error());
         return;
@@ -52,14 +52,14 @@ void SavedState::updateRestoreCount()
     if (!list.value()) {
         return;
     }
-    const auto count = list.value()->find(kRestoreCountKey);
-    if (count == list.value()->end() || !count->second) {
+    const auto count = list.value()->integer;
+    if (!count) {
         console_.printLine("restoreCount anahtarı bulunamadı, varsayılan değer kullanılacak.");
         createDefaultRestoreCountFile(file);
         return;
     }
-    console_.printLine("Restore Count değeri: " + std::to_string(*count->second));
-    incrementRestoreCount(*count->second, file);
+    console_.printLine("Restore Count değeri: " + std::to_string(*count));
+    incrementRestoreCount(*count, file);
 }
 
 std::filesystem::path SavedState::directory() const

@@ -37,27 +37,9 @@ std::optional<std::int64_t> integerOf(plist_t node)
     return static_cast<std::int64_t>(value);
 }
 
-PropertyListDictionary dictionaryOf(plist_t node)
-{
-    PropertyListDictionary dictionary;
-    plist_dict_iter made = nullptr;
-    plist_dict_new_iter(node, &made);
-    const std::unique_ptr<void, Free> iterator(made);
-    for (;;) {
-        char* key = nullptr;
-        plist_t value = nullptr;
-        plist_dict_next_item(node, iterator.get(), &key, &value);
-        const std::unique_ptr<char, Free> owned(key);
-        if (!key) {
-            return dictionary;
-        }
-        dictionary[key] = integerOf(value);
-    }
-}
-
 } // namespace
 
-Outcome<std::optional<PropertyListDictionary>> readPropertyList(const Bytes& bytes)
+Outcome<std::optional<PropertyListMember>> readPropertyList(const Bytes& bytes, const std::string& key)
 {
     plist_t parsed = nullptr;
     if (!bytes.empty() && bytes.size() <= std::numeric_limits<std::uint32_t>::max()) {
@@ -69,9 +51,10 @@ Outcome<std::optional<PropertyListDictionary>> readPropertyList(const Bytes& byt
         return listError("not a property list");
     }
     if (plist_get_node_type(root.get()) != PLIST_DICT) {
-        return std::optional<PropertyListDictionary>();
+        return std::optional<PropertyListMember>();
     }
-    return std::optional(dictionaryOf(root.get()));
+    // Asked for by its name: to be told the names, the library demands that none holds a NUL, and aborts.
+    return std::optional(PropertyListMember{.integer = integerOf(plist_dict_get_item(root.get(), key.c_str()))});
 }
 
 Outcome<Bytes> writePropertyList(const std::string& key, std::int64_t value)

@@ -4,18 +4,19 @@
 #include "foundation/Outcome.h"
 
 #include <cstdint>
-#include <map>
 #include <optional>
 #include <string>
 
 namespace orken {
 
-/// A dictionary's values that are integers; the others are there without one.
-using PropertyListDictionary = std::map<std::string, std::optional<std::int64_t>>;
+/// What a dictionary has under one key; without an integer when there is nothing, or another value.
+struct PropertyListMember {
+    std::optional<std::int64_t> integer;
+};
 
-/// Reads a property list, XML or binary. Absent when its top level is no dictionary; an error when it is no property
-/// list. An integer above the range is read as the negative one of the same bits.
-[[nodiscard]] Outcome<std::optional<PropertyListDictionary>> readPropertyList(const Bytes& bytes);
+/// Looks for `key` in a property list, XML or binary. Absent when its top level is no dictionary; an error when it is
+/// no property list. An integer above the range is read as the negative one of the same bits.
+[[nodiscard]] Outcome<std::optional<PropertyListMember>> readPropertyList(const Bytes& bytes, const std::string& key);
 
 /// A dictionary of one integer as an XML property list, version 1.0.
 [[nodiscard]] Outcome<Bytes> writePropertyList(const std::string& key, std::int64_t value);

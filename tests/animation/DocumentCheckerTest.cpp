@@ -59,6 +59,8 @@ TEST(DocumentChecker, refusesWhatTheRendererCannotBeTrustedWith)
         {"compositions in a ring", with(R"("assets":[{"id":"a","layers":[{"refId":"b"}]},)"
                                         R"({"id":"b","layers":[{"refId":"a"}]}])")},
         {"exponential compositions", doubled(30)},
+        {"a chain of compositions that no stack holds", doubled(100'000)},
+        {"times that are too large once moved", R"({"w":1,"h":1,"fr":1,"ip":-10,"op":20,"layers":[{"op":32768}]})"},
     };
     for (const auto& [name, document] : cases) {
         EXPECT_FALSE(checkAnimationDocument(document)) << name;

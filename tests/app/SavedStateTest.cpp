@@ -25,7 +25,7 @@ struct Bed {
 
     [[nodiscard]] std::optional<std::int64_t> count()
     {
-        return readPropertyList(desktop.files.contents.at(kFile)).value()->at("restoreCount");
+        return readPropertyList(desktop.files.contents.at(kFile), "restoreCount").value()->integer;
     }
 
     simulated::SimulatedDesktop desktop;

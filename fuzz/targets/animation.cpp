@@ -1,0 +1,56 @@
+#include "../Target.h"
+
+#include "animation/DocumentChecker.h"
+
+#include <nlohmann/json.hpp>
+
+#include <cmath>
+#include <string>
+
+// Animation documents, before a renderer sees them.
+
+namespace orken::fuzz {
+
+namespace {
+
+using Json = nlohmann::json;
+
+constexpr double kLargestNumber = 32768;
+
+void checkValue(const Json& value, int depth)
+{
+    constexpr int kDeepest = 64;
+    demand(depth <= kDeepest, "an accepted document is not deep");
+    demand(!value.is_number() || std::abs(value.get<double>()) <= kLargestNumber, "its numbers are not large");
+    if (value.is_structured()) {
+        for (const Json& item : value) {
+            checkValue(item, depth + 1);
+        }
+    }
+}
+
+} // namespace
+
+void run(std::string_view input)
+{
+    const auto document = checkAnimationDocument(input);
+    if (!document) {
+        demand(!document.error().message.empty(), "a refusal has a reason");
+        return;
+    }
+    const AnimationDocument& usable = document.value();
+    demand(usable.frameCount >= 1 && usable.frameCount <= 36000, "an animation has frames, and an end");
+    demand(usable.frameRate >= 1 && usable.frameRate <= 240, "frames come at a usable rate");
+    demand(usable.size.width >= 1 && usable.size.width <= 8192, "a composition has a usable width");
+    demand(usable.size.height >= 1 && usable.size.height <= 8192, "a composition has a usable height");
+    // `{}` may become `{"ddd":0}`, `9e4` may become `90000.0`.
+    demand(usable.json.size() <= 4 * input.size(), "what is written anew is not much larger");
+    const Json root = Json::parse(usable.json, nullptr, false);
+    demand(root.is_object(), "what is written anew is a document");
+    checkValue(root, 0);
+    const auto again = checkAnimationDocument(usable.json);
+    demand(again && again.value().json == usable.json, "what was accepted is accepted again, as it is");
+    demand(again.value().frameCount == usable.frameCount && again.value().size == usable.size, "with the same facts");
+}
+
+} // namespace orken::fuzz
