@@ -25,7 +25,12 @@ using Clock = std::chrono::steady_clock;
 using desktop::RendererProcess;
 
 /// From a document to its first picture, its refusal or its failure, and from each further request to its answer.
+/// The sanitizers' build is allowed what it takes to read 8 MiB of text.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr Seconds kLongestAnswer{10};
+#else
 constexpr Seconds kLongestAnswer{1};
+#endif
 /// An answer that came late is asked for again: another program may have had the machine.
 constexpr int kTries = 3;
 /// For what never comes.

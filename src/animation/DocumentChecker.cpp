@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 
 namespace orken {
@@ -23,6 +24,7 @@ constexpr double kMostFrames = 36000;
 constexpr double kLargestEasing = 100;
 constexpr double kMostCopies = 100;
 constexpr int kMostLayers = 2000;
+constexpr std::size_t kMostAssets = 2000;
 
 // Numbers of the format that name the kind of a layer.
 constexpr int kImageLayer = 2;
@@ -173,7 +175,7 @@ public:
         }
     }
 
-    /// Absent when compositions show one another in a ring, or in a chain of more than there may be layers.
+    /// Absent when compositions show one another in a ring.
     [[nodiscard]] std::optional<int> total() const { return isEndless_ ? std::nullopt : std::optional(total_); }
 
 private:
@@ -185,14 +187,11 @@ private:
 
     int countOnce(Composition& composition)
     {
-        // A document holds far longer chains than the stack could follow.
-        if (composition.isOpen || depth_ == kMostLayers) {
+        if (composition.isOpen) {
             isEndless_ = true;
         } else if (!composition.count) {
             composition.isOpen = true;
-            ++depth_;
             composition.count = count(composition.layers);
-            --depth_;
             composition.isOpen = false;
         }
         return composition.count.value_or(0);
@@ -216,12 +215,21 @@ private:
     }
 
     std::map<std::string, Composition> compositions_;
-    int depth_ = 0;
     bool isEndless_ = false;
     int total_ = 0;
 };
 
-/// Pictures and sounds go; compositions stay.
+/// What layers call a composition by: a text, or a number that the renderer takes for one. Absent when it is neither.
+std::optional<std::string> nameOf(const Json& composition)
+{
+    const Json* id = member(composition, "id");
+    if (!id || (!id->is_string() && !id->is_number_integer())) {
+        return std::nullopt;
+    }
+    return id->is_string() ? id->get<std::string>() : id->dump();
+}
+
+/// Pictures and sounds go; compositions stay, one of each name.
 void dropFileAssets(Json& root)
 {
     const auto assets = root.find("assets");
@@ -233,9 +241,12 @@ void dropFileAssets(Json& root)
         return;
     }
     Json kept = Json::array();
+    std::set<std::string> names;
     for (Json& asset : *assets) {
         const Json* layers = member(asset, "layers");
-        if (layers && layers->is_array()) {
+        const auto name = layers && layers->is_array() ? nameOf(asset) : std::nullopt;
+        if (name && names.insert(*name).second) {
+            asset["id"] = *name;
             for (const char* key : {"p", "u", "e"}) {
                 asset.erase(key);
             }
@@ -297,6 +308,10 @@ Outcome<AnimationDocument> checkAnimationDocument(std::string_view document)
     if (!isWithin(width, 1, kLargestExtent) || !isWithin(height, 1, kLargestExtent) ||
         !isWithin(frameRate, 1, kLargestFrameRate) || !layers || !layers->is_array()) {
         return unusableAnimation("no composition of a usable size and frame rate");
+    }
+    // Also because they are counted by following them: no chain is longer than the stack is deep.
+    if (const Json* assets = member(root, "assets"); assets && assets->size() > kMostAssets) {
+        return unusableAnimation("too many compositions");
     }
     dropFileAssets(root);
     if (!isWithin(numberOf(root, "ip"), -kLargestNumber, kLargestNumber) ||

@@ -60,6 +60,7 @@ TEST(DocumentChecker, refusesWhatTheRendererCannotBeTrustedWith)
                                         R"({"id":"b","layers":[{"refId":"a"}]}])")},
         {"exponential compositions", doubled(30)},
         {"a chain of compositions that no stack holds", doubled(100'000)},
+        {"a long one", doubled(2000)},
         {"times that are too large once moved", R"({"w":1,"h":1,"fr":1,"ip":-10,"op":20,"layers":[{"op":32768}]})"},
     };
     for (const auto& [name, document] : cases) {
@@ -88,6 +89,8 @@ TEST(DocumentChecker, writesADocumentAsTheRendererNeedsIt)
          HasSubstr(R"([{"ty":3,"ddd":0,"ind":1},{"ty":4,"ddd":1,"ks":{}}])")},
         {"compositions stay", with(R"("assets":[{"id":"c","p":"x","layers":[]}])"),
          HasSubstr("\"assets\":[{\"id\":\"c\",\"layers\":[]}]")},
+        {"one of each name", with(R"("assets":[{"id":5,"layers":[]},{"id":"5","layers":[{"refId":"5"}]}])"),
+         HasSubstr(R"("assets":[{"id":"5","layers":[]}])")},
         {"easing handles are cut", with(R"("k":[{"t":0,"i":{"x":[2],"y":1e7},"o":{"x":-1,"y":[-1e7,0.5]}}])"),
          HasSubstr(R"({"i":{"x":[1.0],"y":100.0},"o":{"x":0.0,"y":[-100.0,0.5]},"t":0})")},
         {"paths have other handles", with(R"("k":{"i":[[0,-40]],"o":[[0,40]]})"), HasSubstr("\"i\":[[0,-40]]")},

@@ -123,8 +123,15 @@ class Keys(MachineCase):
         client.open_application()
         client.wait_for_login_page()
         provider.wait_for_page("keys", guests=[client.guest])
-        for key in ("a", "Escape", "shift+Escape", "ctrl+Escape", "F5", "Tab", "b"):
+        for key in ("a", "Escape", "shift+Escape", "ctrl+Escape", "F5", "Tab"):
             self.desktop.screen.key(key)
+        # Nor does the exit button keep the keys, when the question that it asks is denied.
+        self.desktop.screen.click(self.desktop.screen.width - 31, 31)
+        client.wait_for("the question", lambda: self.desktop.screen.active_window().title.startswith("Çıkış"))
+        self.desktop.screen.key("Tab")
+        self.desktop.screen.key("Return")
+        client.wait_for("the session", lambda: self.desktop.screen.active_window().title == SESSION_TITLE)
+        self.desktop.screen.key("b")
         provider.wait_for_request("the last key", lambda request: "what=key&key=b" in request["query"])
         keys = [query.removeprefix("what=key&key=") for query in self.seen(provider, "key")]
         self.assertEqual([key for key in keys if key not in ("Shift", "Control")], ["a", "F5", "Tab", "b"])

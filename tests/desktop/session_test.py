@@ -94,6 +94,8 @@ class Watermark(SessionCase):
             x, y = self.moves(client)[-1]
             self.assertTrue(50 <= x <= self.desktop.screen.width / 2 - 50 and 70 <= y <= 540 - 50, (x, y))
             client.wait_for("the watermark there", lambda: self.lies_at(x, y), limit=4)
+        self.desktop.screen.click(round(x), round(y))
+        provider.wait_for_request("a click through it", lambda r: "what=click" in r["query"], guests=[client.guest])
         self.assertEqual(client.guest.terminate(), 0)
 
 

@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <unistd.h>
@@ -145,9 +146,13 @@ TEST(RendererProcess, isConfined)
     (void)renderer.draw();
     int child = 0;
     std::ifstream("/proc/thread-self/children") >> child;
-    std::stringstream status;
-    status << std::ifstream("/proc/" + std::to_string(child) + "/status").rdbuf();
-    EXPECT_THAT(status.str(), testing::AllOf(testing::HasSubstr("NoNewPrivs:\t1"), testing::HasSubstr("Seccomp:\t2")));
+    // Its drawing threads, too.
+    for (const auto& thread : std::filesystem::directory_iterator("/proc/" + std::to_string(child) + "/task")) {
+        std::stringstream status;
+        status << std::ifstream(thread.path() / "status").rdbuf();
+        EXPECT_THAT(status.str(),
+                    testing::AllOf(testing::HasSubstr("NoNewPrivs:\t1"), testing::HasSubstr("Seccomp:\t2")));
+    }
     std::stringstream limits;
     limits << std::ifstream("/proc/" + std::to_string(child) + "/limits").rdbuf();
     EXPECT_THAT(limits.str(), testing::ContainsRegex("Max core file size +0 +0"));

@@ -29,6 +29,7 @@ video.addEventListener('pause', () => {
     toggle.textContent = 'Oynat';
     report('/demo/seen', { what: 'paused' });
 });
+document.addEventListener('click', () => report('/demo/seen', { what: 'click' }));
 // Every turn of the loop begins with one.
 video.addEventListener('playing', () => report('/demo/seen', { what: 'playing' }), { once: true });
 if (new URLSearchParams(location.search).get('paused') !== '1') {

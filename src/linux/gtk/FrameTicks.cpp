@@ -1,13 +1,15 @@
 #include "linux/gtk/FrameTicks.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace orken::desktop {
 
 namespace {
 
-/// A little less than a sixtieth of a second: frame times waver.
-constexpr gint64 kShortestInterval = 15000;
+/// A sixtieth of a second, on average also where the screen has more frames than that; frame times waver.
+constexpr gint64 kInterval = 16667;
+constexpr gint64 kTolerance = 1500;
 constexpr double kMicroseconds = 1e6;
 
 } // namespace
@@ -34,10 +36,11 @@ void FrameTicks::stop()
 
 void FrameTicks::came(gint64 frameTime)
 {
-    const gint64 elapsed = last_ == 0 ? 0 : frameTime - last_;
-    if (last_ != 0 && elapsed < kShortestInterval) {
+    if (last_ != 0 && frameTime + kTolerance < due_) {
         return;
     }
+    const gint64 elapsed = last_ == 0 ? 0 : frameTime - last_;
+    due_ = std::max((last_ == 0 ? frameTime : due_) + kInterval, frameTime);
     last_ = frameTime;
     tick_(Seconds{static_cast<double>(elapsed) / kMicroseconds});
 }

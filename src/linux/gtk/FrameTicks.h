@@ -31,6 +31,8 @@ private:
     guint callback_ = 0;
     /// Of the last call, in microseconds of the frame clock; 0 before the first.
     gint64 last_ = 0;
+    /// When the next one is wanted.
+    gint64 due_ = 0;
 };
 
 } // namespace orken::desktop

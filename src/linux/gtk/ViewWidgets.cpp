@@ -64,6 +64,8 @@ GtkWidget* makeButton(const RenderNode& node)
 {
     GtkWidget* button = gtk_button_new();
     gtk_widget_add_css_class(button, "orken-plain");
+    // The keys stay where they were, with the page; Tab still leads here.
+    gtk_widget_set_focus_on_click(button, FALSE);
     gtk_accessible_update_property(GTK_ACCESSIBLE(button), GTK_ACCESSIBLE_PROPERTY_LABEL, firstText(node).c_str(), -1);
     return button;
 }
@@ -163,11 +165,10 @@ void ViewWidgets::apply(const Element& element)
     gtk_widget_set_margin_start(outer, pixels(modifiers.padding.leading));
     gtk_widget_set_margin_end(outer, pixels(modifiers.padding.trailing));
     gtk_widget_set_opacity(outer, modifiers.opacity);
-    // What cannot be seen takes no clicks, and neither does what is only drawn.
-    gtk_widget_set_can_target(outer, modifiers.opacity > 0);
-    if (std::holds_alternative<TextContent>(content_) || std::holds_alternative<SymbolContent>(content_)) {
-        gtk_widget_set_can_target(inner_, FALSE);
-    }
+    // What cannot be seen takes no clicks, and neither does what is only drawn, its background included.
+    const bool isOnlyDrawn =
+        std::holds_alternative<TextContent>(content_) || std::holds_alternative<SymbolContent>(content_);
+    gtk_widget_set_can_target(outer, modifiers.opacity > 0 && !isOnlyDrawn);
     layerBoxSetPosition(outer, modifiers.position);
     gtk_widget_set_sensitive(outer, modifiers.enabled);
 }

@@ -2,6 +2,7 @@
 
 #include "platform/RandomNumbers.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <random>
@@ -15,8 +16,8 @@ public:
     {
         std::random_device device;
         // The upper end belongs to the range, too.
-        return std::uniform_real_distribution<double>(low,
-                                                      std::nextafter(high, std::numeric_limits<double>::max()))(device);
+        const double open = std::nextafter(high, std::numeric_limits<double>::max());
+        return std::min(high, std::uniform_real_distribution<double>(low, open)(device));
     }
 };
 
