@@ -265,7 +265,7 @@ void DocumentMutator::chainCompositions(Json& root)
 {
     constexpr std::array<std::size_t, 3> kLengths{3, 60, 1999};
     // Once in a while as many as the largest document can hold, with the least that makes them one.
-    const bool isLong = below(10) == 0;
+    const bool isLong = below(25) == 0;
     const std::size_t length = isLong ? 150'000 : kLengths.at(below(kLengths.size()));
     const std::string facts = isLong ? "" : R"("ty":0,"ip":0,"op":60,"st":0,"ks":{},)";
     std::string assets = R"([{"id":"0","layers":[]})";

@@ -25,7 +25,7 @@ using Clock = std::chrono::steady_clock;
 using desktop::RendererProcess;
 
 /// From a document to its first picture, its refusal or its failure, and from each further request to its answer.
-constexpr Seconds kLongestAnswer{1};
+constexpr Seconds kLongestAnswer{ORKEN_LONGEST_ANSWER};
 /// An answer that came late is asked for again: another program may have had the machine.
 constexpr int kTries = 3;
 /// For what never comes.
@@ -68,8 +68,6 @@ struct Visit {
 
 class Walk {
 public:
-    explicit Walk(fs::path renderer) : renderer_(std::move(renderer)) {}
-
     /// Absent when a promise was broken, which has then been printed.
     [[nodiscard]] std::optional<Answer> visit(const std::string& document)
     {
@@ -106,7 +104,7 @@ private:
         }
         bool isDrawn = false;
         bool hasFailed = false;
-        RendererProcess process(renderer_, usable.value().json,
+        RendererProcess process(ORKEN_RENDERER, usable.value().json,
                                 {.drawn = [&] { isDrawn = true; }, .failed = [&] { hasFailed = true; }});
         const auto last = static_cast<std::uint32_t>(usable.value().frameCount - 1);
         const desktop::renderer::Request requests[] = {{.frame = 0, .width = 300, .height = 300},
@@ -149,7 +147,6 @@ private:
         return true;
     }
 
-    fs::path renderer_;
     std::array<int, 3> counts_{};
     int pictures_ = 0;
     Seconds longest_{0};
@@ -183,9 +180,9 @@ int report(const std::string& document, const std::string& name)
     return EXIT_FAILURE;
 }
 
-int walk(int count, std::uint64_t seed, const fs::path& renderer)
+int walk(int count, std::uint64_t seed)
 {
-    Walk walk(renderer);
+    Walk walk;
     auto documents = handWritten();
     if (walk.visit(documents.front()) != Answer::opened) {
         return report(documents.front(), "the-demos");
@@ -214,9 +211,9 @@ int main(int count, char** arguments)
 {
     const int documents = count > 2 ? std::atoi(arguments[1]) : 0;
     if (documents <= 0) {
-        std::fputs("usage: animation_mutations COUNT SEED [RENDERER]\n", stderr);
+        std::fputs("usage: animation_mutations COUNT SEED\n", stderr);
         return 2;
     }
     const std::uint64_t seed = std::strtoull(arguments[2], nullptr, 10);
-    return orken::fuzz::walk(documents, seed, count > 3 ? arguments[3] : ORKEN_RENDERER);
+    return orken::fuzz::walk(documents, seed);
 }
