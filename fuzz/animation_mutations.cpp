@@ -183,17 +183,19 @@ int report(const std::string& document, const std::string& name)
 int walk(int count, std::uint64_t seed)
 {
     Walk walk;
-    auto documents = handWritten();
-    if (walk.visit(documents.front()) != Answer::opened) {
-        return report(documents.front(), "the-demos");
-    }
-    for (std::size_t i = 1; i < documents.size(); ++i) {
-        if (!walk.visit(documents[i])) {
-            return report(documents[i], "hand-written-" + std::to_string(i));
+    // To spoil what is refused or fails as it is would lead nowhere.
+    std::vector<std::string> good;
+    for (const std::string& document : handWritten()) {
+        const auto answer = walk.visit(document);
+        if (!answer || (good.empty() && answer != Answer::opened)) {
+            std::fputs(good.empty() ? "the demo's document is not drawn\n" : "", stderr);
+            return report(document, "hand-written");
+        }
+        if (answer == Answer::opened) {
+            good.push_back(document);
         }
     }
-    std::erase_if(documents, [](const std::string& text) { return !nlohmann::json::accept(text); });
-    DocumentMutator mutator(documents, seed);
+    DocumentMutator mutator(good, seed);
     for (int i = 0; i < count; ++i) {
         const std::string document = mutator.next();
         if (!walk.visit(document)) {
