@@ -77,16 +77,17 @@ std::string DocumentMutator::next()
 {
     using OfTree = void (DocumentMutator::*)(Json&);
     using OfText = void (DocumentMutator::*)(std::string&);
-    // Numbers three times: they are most of a document.
-    constexpr std::array<OfTree, 11> kOfTree{&DocumentMutator::removeMember,     &DocumentMutator::duplicateMember,
-                                             &DocumentMutator::reorderMembers,   &DocumentMutator::replaceNumber,
-                                             &DocumentMutator::replaceNumber,    &DocumentMutator::replaceNumber,
-                                             &DocumentMutator::swapType,         &DocumentMutator::nest,
-                                             &DocumentMutator::repeatItems,      &DocumentMutator::graft,
-                                             &DocumentMutator::chainCompositions};
+    // Numbers most often: they are most of a document, and another number seldom makes it unusable.
+    constexpr std::array<OfTree, 14> kOfTree{&DocumentMutator::replaceNumber,  &DocumentMutator::replaceNumber,
+                                             &DocumentMutator::replaceNumber,  &DocumentMutator::replaceNumber,
+                                             &DocumentMutator::replaceNumber,  &DocumentMutator::replaceNumber,
+                                             &DocumentMutator::removeMember,   &DocumentMutator::duplicateMember,
+                                             &DocumentMutator::reorderMembers, &DocumentMutator::swapType,
+                                             &DocumentMutator::nest,           &DocumentMutator::repeatItems,
+                                             &DocumentMutator::graft,          &DocumentMutator::chainCompositions};
     constexpr std::array<OfText, 3> kOfText{&DocumentMutator::flipBytes, &DocumentMutator::truncate,
                                             &DocumentMutator::moveSlice};
-    constexpr std::size_t kMostSteps = 6;
+    constexpr std::size_t kMostSteps = 5;
 
     Json root = documents_[below(documents_.size())];
     for (std::size_t step = 0, steps = 1 + below(kMostSteps); step < steps; ++step) {
@@ -204,7 +205,7 @@ void DocumentMutator::replaceNumber(Json& root)
         return;
     }
     Json& number = *found[below(found.size())];
-    if (below(2) == 0) {
+    if (below(3) == 0) {
         number = extremeNumber();
     } else {
         constexpr std::array<double, 6> kFactors{-1, 0, 0.001, 2, 10, 300};
@@ -265,7 +266,7 @@ void DocumentMutator::chainCompositions(Json& root)
 {
     constexpr std::array<std::size_t, 3> kLengths{3, 60, 1999};
     // Once in a while as many as the largest document can hold, with the least that makes them one.
-    const bool isLong = below(10) == 0;
+    const bool isLong = below(25) == 0;
     const std::size_t length = isLong ? 150'000 : kLengths.at(below(kLengths.size()));
     const std::string facts = isLong ? "" : R"("ty":0,"ip":0,"op":60,"st":0,"ks":{},)";
     std::string assets = R"([{"id":"0","layers":[]})";
