@@ -1,5 +1,6 @@
 #include "linux/gtk/DesktopApplication.h"
 
+#include "linux/gtk/RunningCopy.h"
 #include "linux/services/StandardConsole.h"
 
 #include <glib-unix.h>
@@ -55,6 +56,10 @@ std::optional<int> DesktopApplication::launch(ApplicationDelegate& delegate, con
     if (!gtk_init_check()) {
         reportDiagnostic("orken: the desktop cannot be reached: no display");
         return EXIT_FAILURE;
+    }
+    // Registering would wait for an answer of the other copy and take its silence for a refusal of the bus.
+    if (presentRunningCopy(identifier_)) {
+        return EXIT_SUCCESS;
     }
     delegate_ = &delegate;
     group_ = group;
