@@ -3,7 +3,7 @@
 import pathlib
 import shutil
 
-from harness.processes import process_tree
+from harness.processes import named
 
 from .fault_case import FaultCase, attack
 
@@ -75,7 +75,8 @@ def disk_full(case):
     home = str(case.home())
     namespace = ["bwrap", "--die-with-parent", "--dev-bind", "/", "/", "--size", str(_DISK), "--tmpfs", home]
     client = case.open_documents([*namespace, "sh", "-c", f'head -c 1000000 /dev/zero >"{home}/full"; exec "$0" "$@"'])
-    inside = pathlib.Path(f"/proc/{process_tree(client.guest.pid)[-1]}/root{home}")
+    (program,) = named(client.guest.tree(), "orken-demo")
+    inside = pathlib.Path(f"/proc/{program}/root{home}")
     client.guest.wait_for_line("Varsayılan dosya oluşturulurken bir hata oluştu: ")
     case.press(client, _FAILED)
     (inside / "full").unlink()
