@@ -53,6 +53,8 @@ int DesktopApplication::run(ApplicationDelegate& delegate, const WindowGroup& gr
 
 std::optional<int> DesktopApplication::launch(ApplicationDelegate& delegate, const WindowGroup& group)
 {
+    // What the window list and screen readers call the program, and what tells its menu entry that a window is its own.
+    g_set_prgname(identifier_.c_str());
     if (!gtk_init_check()) {
         reportDiagnostic("orken: the desktop cannot be reached: no display");
         return EXIT_FAILURE;
