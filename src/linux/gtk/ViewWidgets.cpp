@@ -163,8 +163,10 @@ void ViewWidgets::apply(const Element& element)
     gtk_widget_set_margin_start(outer, pixels(modifiers.padding.leading));
     gtk_widget_set_margin_end(outer, pixels(modifiers.padding.trailing));
     gtk_widget_set_opacity(outer, modifiers.opacity);
-    // What cannot be seen takes no clicks, and neither does what is only drawn.
-    gtk_widget_set_can_target(outer, modifiers.opacity > 0);
+    // What cannot be seen takes no clicks and is not read out, and what is only drawn takes no clicks either.
+    const bool isSeen = modifiers.opacity > 0;
+    gtk_widget_set_can_target(outer, isSeen);
+    gtk_accessible_update_state(GTK_ACCESSIBLE(outer), GTK_ACCESSIBLE_STATE_HIDDEN, !isSeen, -1);
     if (std::holds_alternative<TextContent>(content_) || std::holds_alternative<SymbolContent>(content_)) {
         gtk_widget_set_can_target(inner_, FALSE);
     }
