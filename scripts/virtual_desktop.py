@@ -69,6 +69,8 @@ class VirtualDesktop:
         self._size = width, height
         self._window_manager = window_manager
         self._processes = []
+        self._x_server = None
+        self._manager = None
         self._guests = []
         self._watches = []
         self._folders = 0
@@ -88,7 +90,7 @@ class VirtualDesktop:
             self._start_x_server()
             self._environment = self.new_environment()
             if self._window_manager:
-                self._start_window_manager()
+                self.start_window_manager()
         except BaseException:
             self.close()
             raise
@@ -157,6 +159,28 @@ class VirtualDesktop:
         self._watches.append(watch)
         return watch
 
+    def end_x_server(self, number=signal.SIGTERM):
+        """The screen is gone from here on, also for the caller."""
+        # A connection whose server has gone would end this interpreter.
+        for watch in self._watches:
+            watch.close()
+        self.screen.close()
+        self.screen, self._watches = None, []
+        self._x_server.send_signal(number)
+        self._x_server.wait()
+
+    def start_window_manager(self):
+        configuration = os.path.join(self.folder, "openbox.xml")
+        with open(configuration, "w", encoding="utf-8") as file:
+            file.write(_OPENBOX_CONFIGURATION)
+        self._manager = self._start(["openbox", "--config-file", configuration], env=self._environment)
+        _await("the window manager", self._manager, self.screen.has_window_manager)
+
+    def end_window_manager(self, number=signal.SIGTERM):
+        self._manager.send_signal(number)
+        self._manager.wait()
+        self._processes.remove(self._manager)
+
     def _start_bus(self):
         socket = os.path.join(self.folder, "bus")
         configuration = os.path.join(self.folder, "bus.conf")
@@ -171,22 +195,15 @@ class VirtualDesktop:
         width, height = self._size
         command = ["Xvfb", "-displayfd", str(writer), "-screen", "0", f"{width}x{height}x24"]
         try:
-            server = self._start(command + ["-dpi", "96", "-noreset", "-nolisten", "tcp"], pass_fds=[writer])
+            self._x_server = self._start(command + ["-dpi", "96", "-noreset", "-nolisten", "tcp"], pass_fds=[writer])
         finally:
             os.close(writer)
         with os.fdopen(reader) as answer:
             number = answer.readline().strip()
         if not number:
-            raise NotReached(f"the X server: ended with status {server.wait()}")
+            raise NotReached(f"the X server: ended with status {self._x_server.wait()}")
         self.display_name = f":{number}"
         self.screen = Screen(self.display_name)
-
-    def _start_window_manager(self):
-        configuration = os.path.join(self.folder, "openbox.xml")
-        with open(configuration, "w", encoding="utf-8") as file:
-            file.write(_OPENBOX_CONFIGURATION)
-        manager = self._start(["openbox", "--config-file", configuration], env=self._environment)
-        _await("the window manager", manager, self.screen.has_window_manager)
 
     def _start(self, command, **options):
         """One of the desktop's own processes; its messages go to a file in the desktop's folder."""

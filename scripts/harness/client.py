@@ -20,10 +20,12 @@ _LOOK = 0.1
 class Client:
     """The client's program on a desktop, with the demo provider to talk to."""
 
-    def __init__(self, desktop, program, provider, environment=None):
+    def __init__(self, desktop, program, provider, environment=None, within=()):
+        """`within` is a command that starts the program given after it, such as a shell with redirections."""
         self._screen = desktop.screen
         self.provider = provider
-        self.guest = desktop.spawn([program, provider.ready_file], environment=environment, name="client")
+        command = [*within, program, provider.ready_file]
+        self.guest = desktop.spawn(command, environment=environment, name="client")
 
     def wait_for(self, what, condition, limit=60.0, interval=0.02):
         """Fails at once when the client or the provider has ended."""

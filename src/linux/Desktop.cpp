@@ -1,10 +1,12 @@
 #include "linux/Desktop.h"
 
 #include <csignal>
+#include <fcntl.h>
 #include <filesystem>
 #include <gdk/x11/gdkx.h>
 #include <glib.h>
 #include <string>
+#include <unistd.h>
 
 namespace orken::desktop {
 
@@ -21,9 +23,24 @@ bool hasRenderNode()
     return false;
 }
 
-/// Settings of the libraries below, unless the user has made them. They are read when the toolkit and the engine start.
-void prepareProcess(bool renderNode)
+/// A program may be started with these closed. What is opened next would take their numbers, and the client's lines
+/// would go into it: into the connection to the X server, for one.
+void openStandardStreams()
 {
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(stream, F_GETFD) < 0) {
+            // Gets the lowest free number, which is this one.
+            (void)open("/dev/null", O_RDWR);
+        }
+    }
+}
+
+/// Settings of the libraries below, unless the user has made them, before anything of them is made: some are read at
+/// once, some when the toolkit and the engine start. Answers whether there is a render node.
+bool prepareProcess()
+{
+    openStandardStreams();
+    const bool renderNode = hasRenderNode();
     const char* home = g_getenv("HOME");
     if (home && !g_file_test(home, G_FILE_TEST_IS_DIR)) {
         // The engine's sandbox does not start with it, and takes the client along; the user database has another.
@@ -42,6 +59,7 @@ void prepareProcess(bool renderNode)
         // The driver shows black pages for the buffers that the engine shares in this way.
         g_setenv("WEBKIT_DISABLE_DMABUF_RENDERER", "1", FALSE);
     }
+    return renderNode;
 }
 
 /// Absent on Wayland, also where programs of X11 can be shown beside others: nothing tells there which process a window
@@ -55,7 +73,7 @@ std::optional<std::string> displayName()
 } // namespace
 
 Desktop::Desktop(const DesktopSettings& settings)
-    : renderNode_(hasRenderNode()), bundle(settings.version),
+    : renderNode_(prepareProcess()), bundle(settings.version),
       runningApplications(settings.bundleIdentifier, displayName), urlSession(settings.certificateAuthorityFile),
       contentsReader(settings.certificateAuthorityFile),
       engine({.bundleIdentifier = settings.bundleIdentifier,
@@ -77,7 +95,6 @@ Desktop::Desktop(const DesktopSettings& settings)
                    .isNested = [this] { return alertStack_.depth() > 0; }})
 {
     alertsEnded_ = alertGate_.opened().subscribe([this] { timers.alertsEnded(); });
-    prepareProcess(renderNode_);
 }
 
 } // namespace orken::desktop

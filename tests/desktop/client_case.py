@@ -17,6 +17,11 @@ def build_folder():
     return _BUILD
 
 
+def use_build(folder):
+    global _BUILD
+    _BUILD = os.path.abspath(folder)
+
+
 class ClientCase(unittest.TestCase):
     window_manager = True
 
@@ -27,9 +32,9 @@ class ClientCase(unittest.TestCase):
     def provider(self, *options):
         return Provider(self.desktop, f"{_BUILD}/demo/orken-demo-provider", options)
 
-    def client(self, provider, **environment):
+    def client(self, provider, within=(), **environment):
         merged = {key: value for key, value in {**self.environment, **environment}.items() if value is not None}
-        return Client(self.desktop, f"{_BUILD}/demo/orken-demo", provider, merged)
+        return Client(self.desktop, f"{_BUILD}/demo/orken-demo", provider, merged, within)
 
     def open_login_page(self, provider, **environment):
         """A client in full screen with the login page on the screen, and the requests that came for it."""
@@ -58,6 +63,5 @@ class ClientCase(unittest.TestCase):
 
 def main():
     """Runs the tests of the calling program: BUILD_FOLDER [test names]."""
-    global _BUILD
-    _BUILD = os.path.abspath(sys.argv.pop(1))
+    use_build(sys.argv.pop(1))
     unittest.main(verbosity=2)

@@ -103,6 +103,9 @@ public:
         timers_.clear();
     }
 
+    /// What is still to come: events, queued items, jobs and timers.
+    [[nodiscard]] std::size_t pending() const { return events_.size() + queue_.size() + jobs_.size() + timers_.size(); }
+
     void requireMainThread() const
     {
         require(!onBackground_, "called on the background queue, belongs to the main thread");

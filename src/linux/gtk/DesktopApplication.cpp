@@ -1,5 +1,6 @@
 #include "linux/gtk/DesktopApplication.h"
 
+#include "linux/gtk/RunningCopy.h"
 #include "linux/services/StandardConsole.h"
 
 #include <glib-unix.h>
@@ -52,9 +53,15 @@ int DesktopApplication::run(ApplicationDelegate& delegate, const WindowGroup& gr
 
 std::optional<int> DesktopApplication::launch(ApplicationDelegate& delegate, const WindowGroup& group)
 {
+    // What the window list and screen readers call the program, and what tells its menu entry that a window is its own.
+    g_set_prgname(identifier_.c_str());
     if (!gtk_init_check()) {
         reportDiagnostic("orken: the desktop cannot be reached: no display");
         return EXIT_FAILURE;
+    }
+    // Registering would wait for an answer of the other copy and take its silence for a refusal of the bus.
+    if (presentRunningCopy(identifier_)) {
+        return EXIT_SUCCESS;
     }
     delegate_ = &delegate;
     group_ = group;

@@ -165,10 +165,13 @@ void ViewWidgets::apply(const Element& element)
     gtk_widget_set_margin_start(outer, pixels(modifiers.padding.leading));
     gtk_widget_set_margin_end(outer, pixels(modifiers.padding.trailing));
     gtk_widget_set_opacity(outer, modifiers.opacity);
-    // What cannot be seen takes no clicks, and neither does what is only drawn, its background included.
+    // What cannot be seen takes no clicks and is not read out; what is only drawn takes none either, its background
+    // included.
+    const bool isSeen = modifiers.opacity > 0;
     const bool isOnlyDrawn =
         std::holds_alternative<TextContent>(content_) || std::holds_alternative<SymbolContent>(content_);
-    gtk_widget_set_can_target(outer, modifiers.opacity > 0 && !isOnlyDrawn);
+    gtk_widget_set_can_target(outer, isSeen && !isOnlyDrawn);
+    gtk_accessible_update_state(GTK_ACCESSIBLE(outer), GTK_ACCESSIBLE_STATE_HIDDEN, !isSeen, -1);
     layerBoxSetPosition(outer, modifiers.position);
     gtk_widget_set_sensitive(outer, modifiers.enabled);
 }

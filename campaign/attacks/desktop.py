@@ -1,0 +1,60 @@
+"""The desktop around the client changes or goes."""
+
+import signal
+
+from .fault_case import COURSE_FROM_RIGHT, DOCUMENTS_FROM_RIGHT, VIDEO, attack, pause
+
+
+@attack("window-manager-restarted")
+def window_manager_restarted(case):
+    """It ends, by a request and by a crash, and comes back: in full screen, and under the exit question."""
+    client, provider = case.open_session("/course")
+    targets = ((DOCUMENTS_FROM_RIGHT, "documents"), (COURSE_FROM_RIGHT, "course"))
+    for number, target in zip((signal.SIGTERM, signal.SIGKILL), targets):
+        case.desktop.end_window_manager(number)
+        pause(3.0)
+        _start_window_manager(case, client)
+        case.follow(client, provider, *target)
+    case.ask_to_exit(client)
+    case.desktop.end_window_manager()
+    _start_window_manager(case, client)
+    case.desktop.screen.key("Tab")
+    case.desktop.screen.key("Return")
+    client.wait_for("the session", lambda: not case.question_is_up())
+    case.follow(client, provider, DOCUMENTS_FROM_RIGHT, "documents")
+    case.assert_exit_button_works(client)
+    return "the page without and with it, full screen, the question, the exit button"
+
+
+def _start_window_manager(case, client):
+    case.desktop.start_window_manager()
+    case.assert_full_screen(client)
+    # It adopts windows one after the other and moves them; a press meanwhile may get lost, as for any program.
+    pause(2.0)
+
+
+@attack("x-server-gone")
+def x_server_gone(case):
+    """In order and by a crash, while a page stands there: a plain exit status and no process left."""
+    client, _ = case.open_session(VIDEO)
+    _assert_ends_without_server(case, client, signal.SIGTERM)
+    return "an end with status 1, no crash, no process left"
+
+
+@attack("x-server-killed")
+def x_server_killed(case):
+    """The same while the overlay plays, by a crash of the server."""
+    provider = case.provider("--first-page", "/never")
+    client = case.client(provider)
+    client.open_application()
+    client.wait_for_session_window()
+    case.process_of(client, "orken-animation-renderer")
+    _assert_ends_without_server(case, client, signal.SIGKILL)
+    return "an end with status 1, no crash, no process left"
+
+
+def _assert_ends_without_server(case, client, number):
+    processes = case.processes(client)
+    case.desktop.end_x_server(number)
+    case.assert_ends(client, 1)
+    case.assert_gone(processes)
