@@ -59,6 +59,9 @@ std::optional<int> DesktopApplication::launch(ApplicationDelegate& delegate, con
         reportDiagnostic("orken: the desktop cannot be reached: no display");
         return EXIT_FAILURE;
     }
+    // Ctrl+Shift+D would open an inspector in which every widget of the session can be changed.
+    auto* windows = GTK_WINDOW_CLASS(g_type_class_ref(GTK_TYPE_WINDOW));
+    windows->enable_debugging = +[](GtkWindow*, gboolean) -> gboolean { return TRUE; };
     // Registering would wait for an answer of the other copy and take its silence for a refusal of the bus.
     if (presentRunningCopy(identifier_)) {
         return EXIT_SUCCESS;

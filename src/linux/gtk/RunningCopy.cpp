@@ -13,18 +13,19 @@ namespace {
 
 using Answer = std::unique_ptr<GVariant, decltype(&g_variant_unref)>;
 
-bool hasOwner(GDBusConnection* bus, const std::string& name)
+/// Another process, that is: this one's connection is shared by all that it does.
+bool hasOtherOwner(GDBusConnection* bus, const std::string& name)
 {
     constexpr const char* kBus = "org.freedesktop.DBus";
-    const Answer answer(g_dbus_connection_call_sync(bus, kBus, "/org/freedesktop/DBus", kBus, "NameHasOwner",
-                                                    g_variant_new("(s)", name.c_str()), G_VARIANT_TYPE("(b)"),
+    const Answer answer(g_dbus_connection_call_sync(bus, kBus, "/org/freedesktop/DBus", kBus, "GetNameOwner",
+                                                    g_variant_new("(s)", name.c_str()), G_VARIANT_TYPE("(s)"),
                                                     G_DBUS_CALL_FLAGS_NONE, -1, nullptr, nullptr),
                         &g_variant_unref);
-    gboolean owned = FALSE;
+    const char* owner = nullptr;
     if (answer) {
-        g_variant_get(answer.get(), "(b)", &owned);
+        g_variant_get(answer.get(), "(&s)", &owner);
     }
-    return owned != FALSE;
+    return owner && g_strcmp0(owner, g_dbus_connection_get_unique_name(bus)) != 0;
 }
 
 /// Where the toolkit offers an application of this name on the bus.
@@ -41,7 +42,7 @@ std::string objectPath(const std::string& identifier)
 bool presentRunningCopy(const std::string& identifier)
 {
     const auto bus = GObjectPtr<GDBusConnection>::adopt(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
-    if (!bus || !g_dbus_is_name(identifier.c_str()) || !hasOwner(bus.get(), identifier)) {
+    if (!bus || !g_dbus_is_name(identifier.c_str()) || !hasOtherOwner(bus.get(), identifier)) {
         return false;
     }
     g_dbus_connection_call(bus.get(), identifier.c_str(), objectPath(identifier).c_str(), "org.freedesktop.Application",

@@ -45,7 +45,7 @@ void authorities_class_init(AuthoritiesClass* type)
     G_OBJECT_CLASS(type)->finalize = finalize;
 }
 
-GObjectPtr<GTlsDatabase> readOnce(GObjectPtr<GTlsDatabase> known)
+GObjectPtr<GTlsDatabase> readOnce(const GObjectPtr<GTlsDatabase>& known)
 {
     auto* authorities = asAuthorities(g_object_new(authorities_get_type(), nullptr));
     authorities->known = G_TLS_DATABASE(g_object_ref(known.get()));
@@ -54,14 +54,14 @@ GObjectPtr<GTlsDatabase> readOnce(GObjectPtr<GTlsDatabase> known)
 
 const GObjectPtr<GTlsDatabase>& systemAuthorities()
 {
-    static const auto authorities = [] {
+    static const auto kAuthorities = [] {
         GTlsBackend* backend = g_tls_backend_get_default();
-        auto known = GObjectPtr<GTlsDatabase>::adopt(g_tls_backend_get_default_database(backend));
-        auto made = readOnce(std::move(known));
+        const auto known = GObjectPtr<GTlsDatabase>::adopt(g_tls_backend_get_default_database(backend));
+        auto made = readOnce(known);
         g_tls_backend_set_default_database(backend, made.get());
         return made;
     }();
-    return authorities;
+    return kAuthorities;
 }
 
 } // namespace
@@ -74,12 +74,12 @@ GObjectPtr<GTlsDatabase> trustedAuthorities(const std::optional<std::string>& fi
         return system;
     }
     GError* error = nullptr;
-    auto known = GObjectPtr<GTlsDatabase>::adopt(g_tls_file_database_new(file->c_str(), &error));
+    const auto known = GObjectPtr<GTlsDatabase>::adopt(g_tls_file_database_new(file->c_str(), &error));
     if (!known) {
         reportDiagnostic(GErrorPtr(error)->message);
         return system;
     }
-    return readOnce(std::move(known));
+    return readOnce(known);
 }
 
 } // namespace orken::desktop
