@@ -24,9 +24,7 @@ def _run(name, attack):
         case.setUp()
         survived = attack(case)
         case.assert_no_memory_error()
-    except BaseException as failure:  # noqa: B902
-        if isinstance(failure, KeyboardInterrupt):
-            raise
+    except Exception as failure:
         print(f"FAILED  {name}  {failure}  ({time.monotonic() - began:.0f} s)", flush=True)
         traceback.print_exc()
         case.keep_evidence(_ROOT / "build" / "campaign" / name)

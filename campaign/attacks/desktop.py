@@ -2,7 +2,11 @@
 
 import signal
 
-from .fault_case import COURSE_FROM_RIGHT, DOCUMENTS_FROM_RIGHT, VIDEO, attack, pause
+from harness.client import SESSION_TITLE
+from harness.image import Rectangle
+from harness.monitors import Monitors
+
+from .fault_case import COURSE_FROM_RIGHT, DOCUMENTS_FROM_RIGHT, EXIT_BUTTON_FROM_CORNER, VIDEO, attack, pause
 
 
 @attack("window-manager-restarted")
@@ -24,6 +28,49 @@ def window_manager_restarted(case):
     case.follow(client, provider, DOCUMENTS_FROM_RIGHT, "documents")
     case.assert_exit_button_works(client)
     return "the page without and with it, full screen, the question, the exit button"
+
+
+@attack("monitors-changed")
+def monitors_changed(case):
+    """Another mode, smaller than the session asks for too; two monitors in place of one, the left one gone again; fast."""
+    client, provider = case.open_session("/course")
+    screen = case.desktop.screen
+    monitors = Monitors(screen)
+    whole = Rectangle(0, 0, screen.width, screen.height)
+    for width, height in ((1200, 780), (1024, 640), (640, 480), (1280, 800)):
+        monitors.resize(width, height)
+        _wait_for_area(case, client, Rectangle(0, 0, width, height))
+    for _ in range(2):
+        halves = monitors.split()
+        area = _wait_for_area(case, client, *halves)
+        screen.click(area.right - EXIT_BUTTON_FROM_CORNER, area.y + EXIT_BUTTON_FROM_CORNER)
+        client.wait_for("the question", case.question_is_up)
+        monitors.join()
+        screen.key("Tab")
+        screen.key("Return")
+        client.wait_for("the session", lambda: not case.question_is_up())
+        _wait_for_area(case, client, whole)
+    for count in range(30):
+        monitors.resize(1280 - 10 * (count % 7), 800 - 10 * (count % 3))
+    monitors.resize(whole.width, whole.height)
+    _wait_for_area(case, client, whole)
+    case.follow(client, provider, DOCUMENTS_FROM_RIGHT, "documents")
+    case.assert_exit_button_works(client)
+    return "a window that covers its monitor each time, the exit button in sight, the navigation"
+
+
+def _wait_for_area(case, client, *areas):
+    """Until the session covers exactly one of the areas; answers it."""
+
+    def covered():
+        window = case.desktop.screen.window(SESSION_TITLE)
+        area = case.desktop.screen.geometry(window) if window else None
+        return area if area in areas else None
+
+    area = client.wait_for(f"a session that covers {areas}", covered, limit=20.0)
+    # The window has its place; what is in it follows with the next frames.
+    pause(1.0)
+    return area
 
 
 def _start_window_manager(case, client):

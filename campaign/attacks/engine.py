@@ -30,6 +30,7 @@ class _Reloads:
 
     def happened(self):
         self._times.append(time.monotonic())
+        return self._times[-1]
 
 
 def _ends(client):
@@ -46,12 +47,17 @@ def web_process_killed(case):
         reloads.wait_for_next()
         pause(moments.choice((0.0, moments.uniform(0.0, 0.5), moments.uniform(0.5, 3.0))))
         case.kill(client, _WEB)
-        reloads.happened()
-        client.wait_for("the client's line", lambda: _ends(client) == count)
+        killed = reloads.happened()
+        client.wait_for("the client's line", lambda count=count: _ends(client) == count)
         case.assert_full_screen(client)
-    finished = case.finished(provider, "course")
-    client.wait_for("the page again", lambda: case.finished(provider, "course") > finished or _page_stands(case))
+    provider.wait_for_page("course", killed, guests=[client.guest])
     case.follow(client, provider, DOCUMENTS_FROM_RIGHT, "documents")
+    case.desktop.screen.key("Return")
+    client.guest.wait_for_line("başarıyla indirildi.")
+    client.wait_for("the document's alert", lambda: "indirildi" in case.active_title())
+    case.desktop.screen.key("Tab")
+    case.desktop.screen.key("Return")
+    client.wait_for("the session", lambda: "indirildi" not in case.active_title())
     again = len([line for line in client.guest.lines("stderr") if "is loaded again" in line.text])
     case.assertEqual(again, _KILLS)
 
@@ -63,11 +69,6 @@ def web_process_killed(case):
     case.assert_full_screen(client)
     case.assert_exit_button_works(client)
     return f"{_KILLS} ends and as many reloads, then {_RELOADS + 1} in a row: the session in full screen, its exit button"
-
-
-def _page_stands(case):
-    size = case.desktop.screen.width, 28
-    return case.desktop.screen.image().find_rectangle("#0a7d4f", 4, *size)
 
 
 @attack("web-process-killed-early")

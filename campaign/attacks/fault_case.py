@@ -80,9 +80,13 @@ class FaultCase(ClientCase):
     def assert_full_screen(self, client):
         client.wait_for("full screen", self.is_full_screen, limit=10.0)
 
-    def question_is_up(self):
+    def active_title(self):
+        """Of the window that has the keyboard; empty when none has it."""
         active = self.desktop.screen.active_window()
-        return active is not None and active.title == EXIT_QUESTION
+        return active.title if active else ""
+
+    def question_is_up(self):
+        return self.active_title() == EXIT_QUESTION
 
     def ask_to_exit(self, client):
         """Clicks the corner's button until its question stands there."""

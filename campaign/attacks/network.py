@@ -131,5 +131,4 @@ def _saved(client):
 
 
 def _alert_is_up(case):
-    active = case.desktop.screen.active_window()
-    return active is not None and "başarıyla indirildi." in active.title
+    return "başarıyla indirildi." in case.active_title()

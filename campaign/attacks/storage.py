@@ -40,8 +40,7 @@ class DocumentsCase(FaultCase):
             client.wait_for("the session", lambda: not self.alert_is_up())
 
     def alert_is_up(self):
-        active = self.desktop.screen.active_window()
-        return active is not None and _SAVED in active.title
+        return _SAVED in self.active_title()
 
 
 def _shell(redirections):

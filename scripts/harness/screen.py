@@ -30,6 +30,11 @@ class Screen:
         self._keyboard = Keyboard(self._display)
         _, _, self.width, self.height = xlib.geometry(self._display, self.root)
 
+    @property
+    def connection(self):
+        """For what else looks at or changes this screen."""
+        return self._display
+
     def close(self):
         X11.XCloseDisplay(self._display)
 

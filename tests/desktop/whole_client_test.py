@@ -169,6 +169,8 @@ class Faults(ClientCase):
         provider.wait_for_request("the address", lambda request: request["server"] == "echo", clicked)
         # The window is on the screen, empty, while the main thread waits.
         client.wait_for("the session window", lambda: self.desktop.screen.window(SESSION_TITLE))
+        # It cannot answer a second copy now, which goes all the same.
+        self.assert_ends(self.client(provider))
         client.guest.signal(signal.SIGTERM)
         self.assert_ends(client)
         self.assertEqual(self.stdout(client)[-1], "asdasdasdasd: nil")

@@ -71,6 +71,21 @@ std::optional<int> smallestScreen(GtkWidget* widget, GtkOrientation orientation)
     return smallest;
 }
 
+/// The smallest screen may be another one, or have another extent.
+void followMonitors(GtkWidget* box)
+{
+    GListModel* monitors = monitorsOf(box);
+    for (guint i = 0; i < g_list_model_get_n_items(monitors); ++i) {
+        gpointer monitor = g_list_model_get_item(monitors, i);
+        // One that was there before is followed already.
+        g_signal_handlers_disconnect_by_func(monitor, reinterpret_cast<gpointer>(gtk_widget_queue_resize), box);
+        g_signal_connect_object(monitor, "notify::geometry", G_CALLBACK(gtk_widget_queue_resize), box,
+                                G_CONNECT_SWAPPED);
+        g_object_unref(monitor);
+    }
+    gtk_widget_queue_resize(box);
+}
+
 int leastExtent(GtkWidget* widget, GtkOrientation orientation)
 {
     const LayerBoxState& state = *asLayerBox(widget)->state;
@@ -253,7 +268,8 @@ void layerBoxSetMinimum(GtkWidget* box, int width, int height)
     state.minimumHeight = height;
     if ((width > 0 || height > 0) && state.monitorsChanged == 0) {
         state.monitorsChanged =
-            g_signal_connect_swapped(monitorsOf(box), "items-changed", G_CALLBACK(gtk_widget_queue_resize), box);
+            g_signal_connect_swapped(monitorsOf(box), "items-changed", G_CALLBACK(followMonitors), box);
+        followMonitors(box);
     }
     gtk_widget_queue_resize(box);
 }
