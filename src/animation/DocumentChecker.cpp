@@ -2,11 +2,12 @@
 
 #include "animation/DocumentReader.h"
 #include "animation/DocumentTimes.h"
+#include "animation/DocumentWriter.h"
+#include "animation/LayerCount.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <map>
 #include <optional>
 #include <set>
 #include <string>
@@ -23,18 +24,11 @@ constexpr double kLargestFrameRate = 240;
 constexpr double kMostFrames = 36000;
 constexpr double kLargestEasing = 100;
 constexpr double kMostCopies = 100;
-constexpr int kMostLayers = 2000;
 constexpr std::size_t kMostAssets = 2000;
 
 // Numbers of the format that name the kind of a layer.
 constexpr int kImageLayer = 2;
 constexpr int kNullLayer = 3;
-
-const Json* member(const Json& object, const char* key)
-{
-    const auto place = object.find(key);
-    return object.is_object() && place != object.end() ? &*place : nullptr;
-}
 
 std::optional<double> numberOf(const Json& object, const char* key)
 {
@@ -157,68 +151,6 @@ std::optional<PlatformError> mendValues(Json& value)
     return std::nullopt;
 }
 
-/// Layers of a composition with those of the compositions that it shows, each as often as it is shown.
-class LayerCount {
-public:
-    explicit LayerCount(const Json& root)
-    {
-        if (const Json* assets = member(root, "assets"); assets && assets->is_array()) {
-            for (const Json& asset : *assets) {
-                if (const Json* id = member(asset, "id"); id && id->is_string()) {
-                    compositions_[id->get<std::string>()] = {.layers = member(asset, "layers")};
-                }
-            }
-        }
-        total_ = count(member(root, "layers"));
-        for (auto& [id, composition] : compositions_) {
-            (void)countOnce(composition);
-        }
-    }
-
-    /// Absent when compositions show one another in a ring.
-    [[nodiscard]] std::optional<int> total() const { return isEndless_ ? std::nullopt : std::optional(total_); }
-
-private:
-    struct Composition {
-        const Json* layers = nullptr;
-        bool isOpen = false;
-        std::optional<int> count;
-    };
-
-    int countOnce(Composition& composition)
-    {
-        if (composition.isOpen) {
-            isEndless_ = true;
-        } else if (!composition.count) {
-            composition.isOpen = true;
-            composition.count = count(composition.layers);
-            composition.isOpen = false;
-        }
-        return composition.count.value_or(0);
-    }
-
-    int count(const Json* layers)
-    {
-        int sum = 0;
-        if (!layers || !layers->is_array()) {
-            return sum;
-        }
-        for (const Json& layer : *layers) {
-            const Json* reference = member(layer, "refId");
-            const auto shown = reference && reference->is_string()
-                                   ? compositions_.find(reference->get_ref<const std::string&>())
-                                   : compositions_.end();
-            sum += 1 + (shown != compositions_.end() ? countOnce(shown->second) : 0);
-            sum = std::min(sum, kMostLayers + 1);
-        }
-        return sum;
-    }
-
-    std::map<std::string, Composition> compositions_;
-    bool isEndless_ = false;
-    int total_ = 0;
-};
-
 /// What layers call a composition by: a text, or a number that the renderer takes for one. Absent when it is neither.
 std::optional<std::string> nameOf(const Json& composition)
 {
@@ -256,42 +188,6 @@ void dropFileAssets(Json& root)
     *assets = std::move(kept);
 }
 
-void writeValue(const Json& value, std::string& text);
-
-void writeMember(const std::string& key, const Json& value, std::string& text)
-{
-    text += text.back() == '{' ? "" : ",";
-    text += Json(key).dump();
-    text += ':';
-    writeValue(value, text);
-}
-
-/// The renderer forgets what stands before "ty" in an object.
-void writeValue(const Json& value, std::string& text)
-{
-    if (value.is_object()) {
-        text += '{';
-        if (const Json* type = member(value, "ty")) {
-            writeMember("ty", *type, text);
-        }
-        for (const auto& [key, item] : value.items()) {
-            if (key != "ty") {
-                writeMember(key, item, text);
-            }
-        }
-        text += '}';
-    } else if (value.is_array()) {
-        text += '[';
-        for (const Json& item : value) {
-            text += text.back() == '[' ? "" : ",";
-            writeValue(item, text);
-        }
-        text += ']';
-    } else {
-        text += value.dump();
-    }
-}
-
 } // namespace
 
 Outcome<AnimationDocument> checkAnimationDocument(std::string_view document)
@@ -326,15 +222,13 @@ Outcome<AnimationDocument> checkAnimationDocument(std::string_view document)
     if (!frames || *frames < 1 || *frames > kMostFrames) {
         return unusableAnimation("no usable number of frames");
     }
-    if (LayerCount(root).total().value_or(kMostLayers + 1) > kMostLayers) {
+    if (!hasUsableLayerCount(root)) {
         return unusableAnimation("too many layers");
     }
-    AnimationDocument usable{.json = {},
+    AnimationDocument usable{.json = writeAnimationDocument(root),
                              .size = {.width = *width, .height = *height},
                              .frameRate = *frameRate,
                              .frameCount = static_cast<int>(*frames)};
-    usable.json.reserve(document.size());
-    writeValue(root, usable.json);
     return usable;
 }
 

@@ -60,6 +60,12 @@ private:
 
 } // namespace
 
+const nlohmann::json* member(const nlohmann::json& object, const char* key)
+{
+    const auto place = object.find(key);
+    return object.is_object() && place != object.end() ? &*place : nullptr;
+}
+
 PlatformError unusableAnimation(std::string_view reason)
 {
     return platformError("animation", 2, "animation", reason);
