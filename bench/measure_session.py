@@ -106,7 +106,7 @@ class Sessions:
 
 
 def _main_thread_costs(build):
-    command = [str(_ROOT / "tests/desktop/on_virtual_desktop.py"), str(build / "bin/session_costs")]
+    command = [str(_ROOT / "scripts/on_virtual_desktop.py"), str(build / "bin/session_costs")]
     command.append(str(_ROOT / "demo/pages/animation.json"))
     return json.loads(subprocess.run(["/usr/bin/python3", *command], stdout=subprocess.PIPE, check=True).stdout)
 

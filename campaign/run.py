@@ -10,9 +10,9 @@ import time
 import traceback
 
 _ROOT = pathlib.Path(__file__).resolve().parent.parent
-sys.path.insert(0, str(_ROOT / "tests" / "desktop"))
+sys.path.insert(0, str(_ROOT / "scripts"))
 
-import client_case  # noqa: E402
+from harness import client_case  # noqa: E402
 import attacks  # noqa: E402
 
 

@@ -6,7 +6,7 @@ import shutil
 import signal
 import time
 
-from client_case import BUNDLE, ClientCase
+from harness.client_case import BUNDLE, ClientCase
 from harness.client import SESSION_TITLE
 from harness.processes import named, start_time
 from harness.waiting import wait_for

@@ -1,15 +1,15 @@
 #!/usr/bin/python3
 """The client and the machine around it: the version gate, other applications, keys and windows, removal of the bundle.
 
-    machine_test.py BUILD_FOLDER [test names]
+    PYTHONPATH=scripts tests/desktop/machine_test.py BUILD_FOLDER [test names]
 """
 
 import os
 import pathlib
 import subprocess
 
-import client_case
-from client_case import ClientCase, main
+from harness import client_case
+from harness.client_case import ClientCase, main
 from harness.client import SESSION_TITLE, START_TITLE
 from virtual_desktop import wait_for
 

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """What passes between a page and the client: the login form's field, documents, and what the engine keeps to itself.
 
-    page_test.py BUILD_FOLDER [test names]
+    PYTHONPATH=scripts tests/desktop/page_test.py BUILD_FOLDER [test names]
 """
 
 import json
@@ -11,7 +11,7 @@ import signal
 import ssl
 import urllib.request
 
-from client_case import ClientCase, main
+from harness.client_case import ClientCase, main
 from harness.client import SESSION_TITLE
 from harness.processes import named, start_time
 

@@ -1,10 +1,10 @@
 #!/usr/bin/python3
 """One whole session as a person goes through it: by names that a screen reader says, a pointer and a keyboard.
 
-    person_test.py BUILD_FOLDER [test names]
+    PYTHONPATH=scripts tests/desktop/person_test.py BUILD_FOLDER [test names]
 """
 
-from client_case import ClientCase, main
+from harness.client_case import ClientCase, main
 from harness.accessibility import Accessibility
 from harness.client import SESSION_TITLE, START_TITLE
 from virtual_desktop import wait_for

@@ -1,12 +1,12 @@
 #!/usr/bin/python3
 """What the session screen draws over the page: the waiting overlay with its animation, the watermark, the exit button.
 
-    session_test.py BUILD_FOLDER [test names]
+    PYTHONPATH=scripts tests/desktop/session_test.py BUILD_FOLDER [test names]
 """
 
 import re
 
-from client_case import ClientCase, main
+from harness.client_case import ClientCase, main
 from harness.processes import named
 
 # Black at 80 % over a white page.

@@ -1,14 +1,14 @@
 #!/usr/bin/python3
 """The whole client on GTK and WebKit against the demo provider, worked with real input on a virtual desktop.
 
-    whole_client_test.py BUILD_FOLDER [test names]
+    PYTHONPATH=scripts tests/desktop/whole_client_test.py BUILD_FOLDER [test names]
 """
 
 import json
 import pathlib
 import signal
 
-from client_case import BUNDLE, ClientCase, main
+from harness.client_case import BUNDLE, ClientCase, main
 from harness.client import SESSION_TITLE, START_TITLE, USER_AGENT
 
 APPLICATION_KEY = "5b2e7a41-93cd-4f08-a6e2-1c7d90b3f584"

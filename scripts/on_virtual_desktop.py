@@ -1,12 +1,10 @@
 #!/usr/bin/python3
 """Runs a test program on a virtual desktop of its own and hands on its output and exit status."""
 
-import pathlib
 import subprocess
 import sys
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts"))
-from virtual_desktop import VirtualDesktop  # noqa: E402
+from virtual_desktop import VirtualDesktop
 
 # The leak checker cannot look into the toolkit's and the engine's own threads.
 SANITIZERS = {"ASAN_OPTIONS": "detect_leaks=0:intercept_tls_get_addr=0"}

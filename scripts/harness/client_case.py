@@ -6,8 +6,7 @@ import sys
 import unittest
 
 from on_virtual_desktop import SANITIZERS
-from harness.client import Client
-from virtual_desktop import Provider, VirtualDesktop
+from virtual_desktop import Client, Provider, VirtualDesktop
 
 BUNDLE = "com.orken.app"
 _BUILD = None
