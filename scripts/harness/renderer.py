@@ -26,10 +26,10 @@ def first_frame(entering, document, edge):
     with contextlib.ExitStack() as stack:
         ours, theirs = (stack.enter_context(end) for end in socket.socketpair(socket.AF_UNIX, socket.SOCK_SEQPACKET))
         ours.settimeout(_PATIENCE)
-        pixels, bytes_of_document = (_in_memory(stack, name) for name in ("pixels", "document"))
+        pixels, file = (_in_memory(stack, name) for name in ("pixels", "document"))
         pixels.truncate(_PIXEL_BYTES)
-        bytes_of_document.write(document)
-        given = [fcntl.fcntl(each.fileno(), fcntl.F_DUPFD, _OUT_OF_THE_WAY) for each in (theirs, pixels, bytes_of_document)]
+        file.write(document)
+        given = [fcntl.fcntl(each.fileno(), fcntl.F_DUPFD, _OUT_OF_THE_WAY) for each in (theirs, pixels, file)]
         try:
             moves = " ".join(f"{place}<&{descriptor} {descriptor}<&-" for place, descriptor in enumerate(given, 3))
             process = subprocess.Popen(entering(moves), pass_fds=given)
