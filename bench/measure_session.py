@@ -8,6 +8,7 @@ full-screen view of the same page with the client's rendering settings. Ends wit
 import argparse
 import json
 import pathlib
+import re
 import subprocess
 import sys
 import time
@@ -39,6 +40,16 @@ def client_settings(desktop, client):
                 variables = dict(entry.partition("=")[::2] for entry in file.read().split("\0"))
             environment |= {name: variables[name] for name in names if name in variables}
     return {**desktop.new_environment(), **environment}
+
+
+def _lacking_limits(pid):
+    """How many of the renderer's limits are not in force, each of its threads counted."""
+    threads = [path.read_text(encoding="ascii") for path in pathlib.Path(f"/proc/{pid}/task").glob("*/status")]
+    limits = pathlib.Path(f"/proc/{pid}/limits").read_text(encoding="ascii")
+    wanted = (r"Max core file size +0 +0 ", r"Max address space +536870912 +536870912 ")
+    return sum("Seccomp:\t2" not in text or "NoNewPrivs:\t1" not in text for text in threads) + sum(
+        re.search(limit, limits) is None for limit in wanted
+    )
 
 
 class Sessions:
@@ -90,6 +101,7 @@ class Sessions:
             "playing_client_percent": used[0],
             "playing_renderer_percent": used[1],
             "renderer_memory": _megabytes([renderer]),
+            "renderer_lacks": _lacking_limits(renderer),
         }
         self._desktop.discard(client.guest)
         return figures
@@ -131,6 +143,7 @@ def main():
     budgets.check("renderers of an idle session", figures["idle_renderers"], 0)
     budgets.check("session's memory above the floor's", figures["memory"] - figures["floor_memory"], 20, "MB")
     budgets.check("renderer's memory", figures["renderer_memory"], 12, "MB")
+    budgets.check("limits that the renderer lacks", figures["renderer_lacks"], 0)
     return budgets.status()
 
 
