@@ -78,7 +78,7 @@ class Person(ClientCase):
         saved = client.guest.wait_for_line("başarıyla indirildi.").text
         self.hears("label", saved)
         self.press("Kapat", saved)
-        client.wait_for("the session", lambda: self.desktop.screen.active_window().title == SESSION_TITLE)
+        client.wait_for("the alert's end", lambda: self.desktop.screen.window(saved) is None)
 
         self.press("Çıkış", SESSION_TITLE)
         self.press("Evet", "Çıkış yapmak istediğinize emin misiniz?")
