@@ -84,6 +84,8 @@ def web_process_killed_early(case):
     case.kill(client, _WEB)
     provider.wait_for_request("it again", lambda r: r["path"] == "/slow", asked["t"] + 0.001, guests=[client.guest])
     provider.wait_for_page("slow", guests=[client.guest])
+    # The page reports itself before the overlay has gone, which takes the clicks until then.
+    client.wait_for_login_page()
     case.ask_to_exit(client)
     case.kill(client, _WEB)
     client.wait_for("the client's line", lambda: _ends(client) == 2)
