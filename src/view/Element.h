@@ -187,7 +187,8 @@ public:
     [[nodiscard]] Element disabled(bool disabled) &&;
     [[nodiscard]] Element key(std::string key) &&;
 
-    /// Runs each time the element has come onto the screen, children before parents, after the first frame with it.
+    /// Runs each time the element has come onto the screen, children before parents; not before the first frame of its
+    /// window, so that what holds up the main thread never holds a window back.
     [[nodiscard]] Element onAppear(std::function<void()> action) &&;
     /// Shows the alert while the cell is true. An answer sets the cell to false, then runs the button's action.
     [[nodiscard]] Element alert(State<bool> isPresented, AlertDescription description) &&;

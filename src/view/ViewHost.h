@@ -32,9 +32,9 @@ public:
     /// Calls back once on a later turn of the main loop, before the next frame is drawn; never inline.
     virtual void beforeNextFrame(std::function<void()> callback) = 0;
 
-    /// Calls back once when everything applied so far has been on the screen for a frame; never inline. A window that
-    /// is not shown has no frames.
-    virtual void afterNextFrame(std::function<void()> callback) = 0;
+    /// Calls back once, on a later turn of the main loop and not before the window's first frame is on the screen: what
+    /// is called may hold up the main thread. A window that is not shown has no frames.
+    virtual void afterFirstFrame(std::function<void()> callback) = 0;
 };
 
 } // namespace orken

@@ -92,7 +92,7 @@ void ViewTree::show(RenderNodePtr next)
         }
     }
     if (!created.empty() && host_) {
-        host_->afterNextFrame([weak = weak_from_this(), created = std::move(created)] {
+        host_->afterFirstFrame([weak = weak_from_this(), created = std::move(created)] {
             if (const auto tree = weak.lock()) {
                 tree->runAppearActions(created);
             }

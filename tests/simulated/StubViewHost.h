@@ -27,7 +27,7 @@ public:
 
     void beforeNextFrame(std::function<void()> callback) override { beforeFrame_.push_back(std::move(callback)); }
 
-    void afterNextFrame(std::function<void()> callback) override { afterFrame_.push_back(std::move(callback)); }
+    void afterFirstFrame(std::function<void()> callback) override { afterFrame_.push_back(std::move(callback)); }
 
     /// The redraws that were asked for; a hidden window has them too. Says whether there were some.
     bool redraw();

@@ -116,7 +116,7 @@ void DesktopApplication::openGroupWindow()
     const auto window = windows_.makeGroupWindow();
     window->setTitle(group_.title);
     window->setContentView(group_.content());
-    window->afterNextFrame(hooks_.started);
+    window->afterFirstFrame(hooks_.started);
     window->makeKeyAndOrderFront();
 }
 

@@ -45,7 +45,7 @@ public:
     void silence();
 
     /// Calls back once what has been set so far is on the screen.
-    void afterNextFrame(std::function<void()> callback) { host_->afterNextFrame(std::move(callback)); }
+    void afterFirstFrame(std::function<void()> callback) { host_->afterFirstFrame(std::move(callback)); }
 
     [[nodiscard]] GtkWindow* gtkWindow() const { return window_; }
 

@@ -45,8 +45,12 @@ void FrameCallbacks::beforeNext(std::function<void()> callback)
     addIdle(GDK_PRIORITY_REDRAW - 1, idles_, std::move(callback));
 }
 
-void FrameCallbacks::afterNext(std::function<void()> callback)
+void FrameCallbacks::afterFirst(std::function<void()> callback)
 {
+    if (hasPainted_) {
+        addIdle(G_PRIORITY_DEFAULT, idles_, std::move(callback));
+        return;
+    }
     waiting_.push_back(std::move(callback));
     if (tick_ != 0) {
         return;
@@ -64,6 +68,7 @@ void FrameCallbacks::afterNext(std::function<void()> callback)
 
 void FrameCallbacks::framePainted()
 {
+    hasPainted_ = true;
     // The callbacks may block the main thread: the frame has to be with the display server before.
     gdk_display_flush(gtk_widget_get_display(GTK_WIDGET(window_)));
     // Not from inside the frame clock, which could not draw in a nested loop.

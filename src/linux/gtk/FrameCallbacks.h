@@ -22,8 +22,8 @@ public:
     /// On a later turn of the main loop, ahead of drawing.
     void beforeNext(std::function<void()> callback);
 
-    /// Once a frame drawn after this call is on the screen, on a turn of the main loop of its own.
-    void afterNext(std::function<void()> callback);
+    /// On a later turn of the main loop, and not before a first frame of the window is on the screen.
+    void afterFirst(std::function<void()> callback);
 
 private:
     void framePainted();
@@ -32,6 +32,7 @@ private:
     std::vector<guint> idles_;
     std::vector<std::function<void()>> waiting_;
     guint tick_ = 0;
+    bool hasPainted_ = false;
     SignalConnection afterPaint_;
 };
 

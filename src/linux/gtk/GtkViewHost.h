@@ -21,7 +21,7 @@ public:
 
     void beforeNextFrame(std::function<void()> callback) override { frames_.beforeNext(std::move(callback)); }
 
-    void afterNextFrame(std::function<void()> callback) override { frames_.afterNext(std::move(callback)); }
+    void afterFirstFrame(std::function<void()> callback) override { frames_.afterFirst(std::move(callback)); }
 
 private:
     void create(const RenderNode& node, ViewEvents& events);
