@@ -76,6 +76,11 @@ TEST(PageScripts, readWhatThePagesAddressHolds)
          {}},
         {"https://h/?hash=%%%", {"print Invalid URL components."}, {}},
     };
+    const std::string megabyte(1'000'000, 'A');
+    Bed large;
+    EXPECT_THAT(large.pass("https://h/" + megabyte + "?dnz=" + megabyte + "&hash=" + megabyte),
+                testing::Contains(kFailed));
+    EXPECT_EQ(large.values.decryptedHashValue, std::nullopt);
     for (const auto& [url, lines, text] : cases) {
         Bed bed;
         bed.desktop.runningApplications.add("other");
