@@ -10,6 +10,8 @@ namespace {
 
 constexpr std::int64_t kSlowLoadThreshold = 301;
 constexpr std::size_t kLongestWatermark = 200;
+constexpr const char* kLoadingText = "Yükleniyor...";
+constexpr const char* kSlowLoadText = "SAYFANIN YÜKLENMESİ\nBEKLENENDEN UZUN SÜRDÜ";
 constexpr double kAnimationExtent = 300;
 constexpr Shadow kTextShadow{.color = Color::black(), .radius = 1, .x = 1, .y = 1};
 
@@ -77,24 +79,26 @@ Element WebView::waitingOverlay()
     auto animation = LottieView::element(
         {.state = loadingAnimation_, .onCompleted = ignored, .onDownloaded = ignored, .value = 0}, ports_.animation);
     return VStack({std::move(animation).frame({.width = kAnimationExtent, .height = kAnimationExtent}),
-                   When(!isSlow, [] { return Text("Yükleniyor...").font(Font::system36); }),
+                   When(!isSlow, [] { return Text(kLoadingText).font(Font::system36); }),
                    When(isSlow, [this] { return slowLoadMessage(); })},
                   0)
         .foreground(Color::white())
         .frame({.fill = true})
         .background({.red = 0, .green = 0, .blue = 0, .alpha = 0.8})
-        .opacity(model_->didFinishLoading.get() ? 0 : 1);
+        .opacity(model_->didFinishLoading.get() ? 0 : 1)
+        .announcement(isSlow ? kSlowLoadText : kLoadingText);
 }
 
 Element WebView::slowLoadMessage()
 {
     auto label =
         Text("ANASAYFAYI AÇ").foreground(Color::black()).frame({.width = 200, .height = 50}).background(Color::gray());
-    return VStack(
-        {Text("SAYFANIN YÜKLENMESİ\nBEKLENENDEN UZUN SÜRDÜ").font(Font::largeTitle).padding(),
-         Text("Beklemeye devam edebilir ya da aşağıdaki butona basarak anasayfaya dönebilirsiniz.").font(Font::caption),
-         Button(std::move(label), [this] { openMainPage(); }).padding()},
-        0);
+    return VStack({Text(kSlowLoadText).font(Font::largeTitle).padding(),
+                   Text("Beklemeye devam edebilir ya da aşağıdaki butona basarak anasayfaya dönebilirsiniz.")
+                       .font(Font::caption),
+                   Button(std::move(label), [this] { openMainPage(); }).padding()},
+                  0)
+        .announcement(kSlowLoadText);
 }
 
 Element WebView::loginExitLayer()

@@ -152,6 +152,12 @@ Element Element::disabled(bool disabled) &&
     return std::move(*this);
 }
 
+Element Element::announcement(std::string text) &&
+{
+    modifiers_.announcement = std::move(text);
+    return std::move(*this);
+}
+
 Element Element::key(std::string key) &&
 {
     key_ = std::move(key);
@@ -185,7 +191,8 @@ Element Element::alert(State<bool> isPresented, AlertDescription description) &&
 bool sameIdentity(const Element& left, const Element& right)
 {
     if (left.identity() != right.identity() || left.content().index() != right.content().index() ||
-        left.modifiers().needsBox() != right.modifiers().needsBox()) {
+        left.modifiers().needsBox() != right.modifiers().needsBox() ||
+        left.modifiers().announcement.has_value() != right.modifiers().announcement.has_value()) {
         return false;
     }
     const bool typed = std::holds_alternative<NestedContent>(left.content()) ||

@@ -25,7 +25,21 @@ GdkRGBA rgba(const Color& color)
             .alpha = static_cast<float>(color.alpha)};
 }
 
-/// Sizes of the text roles in typographic points; the desktop's text scale comes on top.
+/// How much larger than usual the user wants texts: the size of the desktop's font. Its text scale comes on top.
+double fontScale()
+{
+    constexpr double kUsualPoints = 11;
+    gchar* name = nullptr;
+    g_object_get(gtk_settings_get_default(), "gtk-font-name", &name, nullptr);
+    PangoFontDescription* font = pango_font_description_from_string(name ? name : "");
+    const bool isInPoints = !pango_font_description_get_size_is_absolute(font);
+    const double points = isInPoints ? pango_font_description_get_size(font) / static_cast<double>(PANGO_SCALE) : 0;
+    pango_font_description_free(font);
+    g_free(name);
+    return std::max(points / kUsualPoints, 1.0);
+}
+
+/// Sizes of the text roles in typographic points, with the usual font.
 std::optional<int> fontPoints(Font font)
 {
     switch (font) {
@@ -103,6 +117,9 @@ ViewWidgets::ViewWidgets(const RenderNode& node, ViewEvents& events) : content_(
     } else {
         outer_ = GObjectPtr<GtkWidget>::share(inner_);
     }
+    if (node.element.modifiers().announcement) {
+        g_object_set(outer_.get(), "accessible-role", GTK_ACCESSIBLE_ROLE_ALERT, nullptr);
+    }
     apply(node.element);
 }
 
@@ -172,6 +189,10 @@ void ViewWidgets::apply(const Element& element)
         std::holds_alternative<TextContent>(content_) || std::holds_alternative<SymbolContent>(content_);
     gtk_widget_set_can_target(outer, isSeen && !isOnlyDrawn);
     gtk_accessible_update_state(GTK_ACCESSIBLE(outer), GTK_ACCESSIBLE_STATE_HIDDEN, !isSeen, -1);
+    if (modifiers.announcement) {
+        gtk_accessible_update_property(GTK_ACCESSIBLE(outer), GTK_ACCESSIBLE_PROPERTY_LABEL,
+                                       modifiers.announcement->c_str(), -1);
+    }
     layerBoxSetPosition(outer, modifiers.position);
     gtk_widget_set_sensitive(outer, modifiers.enabled);
 }
@@ -188,7 +209,7 @@ void ViewWidgets::applyText(const Element& element)
     PangoAttrList* attributes = pango_attr_list_new();
     const Modifiers& modifiers = element.modifiers();
     if (const auto points = fontPoints(modifiers.font)) {
-        pango_attr_list_insert(attributes, pango_attr_size_new(*points * PANGO_SCALE));
+        pango_attr_list_insert(attributes, pango_attr_size_new(pixels(*points * fontScale() * PANGO_SCALE)));
     }
     if (modifiers.font == Font::headline) {
         pango_attr_list_insert(attributes, pango_attr_weight_new(PANGO_WEIGHT_BOLD));
