@@ -12,6 +12,7 @@ _REGISTRY = "org.a11y.atspi.Registry"
 _ROOT = "/org/a11y/atspi/accessible/root"
 _ACCESSIBLE = "org.a11y.atspi.Accessible"
 _APPLICATION = "application"
+_FOCUSED = 12
 _VISIBLE = 30
 _IN_WINDOW = 1
 
@@ -25,6 +26,7 @@ class Element(NamedTuple):
     role: str
     window: str
     """Title of the window that it is in."""
+    is_focused: bool = False
 
 
 _DESKTOP = Element(_REGISTRY, _ROOT, "", "", "")
@@ -51,6 +53,10 @@ class Accessibility:
         """The first element with this role and exactly this name; None when there is none."""
         return next((e for e in self.elements() if (e.role, e.name) == (role, name)), None)
 
+    def focused(self):
+        """What has the keyboard; None when nothing says so."""
+        return next((e for e in self.elements() if e.is_focused), None)
+
     def extents(self, element):
         """In the coordinates of its window."""
         arguments = GLib.Variant("(u)", (_IN_WINDOW,))
@@ -68,7 +74,10 @@ class Accessibility:
             return None
         is_window = at.window == "" and role != _APPLICATION
         is_visible = role == _APPLICATION or states[0] & (1 << _VISIBLE)
-        return at._replace(name=name, role=role, window=name if is_window else at.window) if is_visible else None
+        if not is_visible:
+            return None
+        is_focused = bool(states[0] & (1 << _FOCUSED))
+        return at._replace(name=name, role=role, window=name if is_window else at.window, is_focused=is_focused)
 
     def _children(self, parent):
         try:

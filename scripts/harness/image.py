@@ -40,6 +40,12 @@ class Image:
         index = y * self.width + x
         return tuple(plane[index] for plane in self._planes)
 
+    def contrast(self, area):
+        """Between the lightest and the darkest pixel of a rectangle, from 1 to 21, as WCAG 2 defines it."""
+        pixels = {self.pixel(x, y) for x in range(area.x, area.right) for y in range(area.y, area.bottom)}
+        luminances = [_luminance(pixel) for pixel in pixels]
+        return (max(luminances) + 0.05) / (min(luminances) + 0.05)
+
     def save(self, path):
         """Writes a PNG: 8 bits a channel, no filter, one compressed stream."""
         stride = 3 * self.width
@@ -102,6 +108,13 @@ class Image:
             if row == full:
                 height = y - top + 1
         return height
+
+
+def _luminance(pixel):
+    """Relative to white, from 0 to 1 (WCAG 2)."""
+    channels = [value / 255 for value in pixel]
+    linear = [c / 12.92 if c <= 0.04045 else ((c + 0.055) / 1.055) ** 2.4 for c in channels]
+    return sum(weight * c for weight, c in zip((0.2126, 0.7152, 0.0722), linear))
 
 
 def _rgb(colour):

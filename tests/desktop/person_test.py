@@ -7,6 +7,7 @@
 from harness.client_case import ClientCase, main
 from harness.accessibility import Accessibility
 from harness.client import SESSION_TITLE, START_TITLE
+from harness.image import Rectangle
 from virtual_desktop import wait_for
 
 OTHER_APPLICATIONS = "Devam edebilmek için aşağıdaki açık uygulamalar kapatılacak, onaylıyor musunuz?"
@@ -33,10 +34,26 @@ class Person(ClientCase):
 
     def press(self, name, window):
         """Clicks the middle of the button with this name."""
-        element = self.hears("button", name, window)
+        self.desktop.screen.click(*self.on_screen(self.hears("button", name, window)).centre)
+
+    def on_screen(self, element):
+        frame = self.desktop.screen.geometry(self.desktop.screen.window(element.window))
         area = self.accessibility.extents(element)
-        frame = self.desktop.screen.geometry(self.desktop.screen.window(window))
-        self.desktop.screen.click(frame.x + area.x + area.width // 2, frame.y + area.y + area.height // 2)
+        return Rectangle(frame.x + area.x, frame.y + area.y, area.width, area.height)
+
+    def assert_can_be_read(self, name, window):
+        area = self.on_screen(self.hears("label", name, window))
+        self.assertGreaterEqual(self.desktop.screen.image().contrast(area), 4.5, name)
+
+    def focus_moves_to(self, name):
+        """With the next Tab, for the eye and for the ear."""
+        before = self.desktop.screen.image()
+        self.desktop.screen.key("Tab")
+        element = wait_for(f"the keyboard at {name!r}", lambda: (e := self.accessibility.focused()) and e.name == name and e)
+        x, y, width, height = self.on_screen(element)
+        edge = [(x + step, row) for row in (y, y + height - 1) for step in range(width)]
+        ring = lambda: (i := self.desktop.screen.image()) and any(i.pixel(*at) != before.pixel(*at) for at in edge)
+        wait_for(f"a ring around {name!r}", ring)
 
     def go(self, provider, client, page, x, y):
         clicked = self.desktop.screen.click(x, y)
@@ -94,6 +111,31 @@ class Person(ClientCase):
         for path in files:
             content = path.read_bytes()
             self.assertEqual([trace for trace in traces if trace in content], [], path)
+
+    def test_texts_can_be_read_and_the_keyboard_reaches_every_control(self):
+        provider = self.provider("--first-page", "/never")
+        client = self.client(provider, GTK_A11Y=None)
+        buttons = ("Uygulamayı Aç", "Uygulamadan Çık", "Uygulamayı Sil")
+        for name in (*buttons, "Uygulama sürümü: 1.0"):
+            self.assert_can_be_read(name, START_TITLE)
+        usual = self.accessibility.extents(self.hears("label", "Uygulama sürümü: 1.0", START_TITLE))
+        for name in (*buttons[1:], *buttons):
+            self.focus_moves_to(name)
+        client.open_application()
+        client.wait_for_session_window()
+        focused = wait_for("what is told of the wait", self.accessibility.focused)
+        self.assertEqual((focused.role, focused.name), ("alert", "Yükleniyor..."))
+        self.assert_can_be_read("Yükleniyor...", SESSION_TITLE)
+        self.focus_moves_to("Çıkış")
+        self.assertEqual(client.guest.terminate(), 0)
+
+        settings = self.home() / ".config/gtk-4.0/settings.ini"
+        settings.parent.mkdir(parents=True, exist_ok=True)
+        settings.write_text("[Settings]\ngtk-font-name=Sans 22\n", encoding="ascii")
+        client = self.client(provider, GTK_A11Y=None)
+        large = self.accessibility.extents(self.hears("label", "Uygulama sürümü: 1.0", START_TITLE))
+        self.assertGreater(large.height, 1.8 * usual.height)
+        self.assertEqual(client.guest.terminate(), 0)
 
 
 if __name__ == "__main__":

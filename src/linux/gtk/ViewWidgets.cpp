@@ -118,7 +118,7 @@ ViewWidgets::ViewWidgets(const RenderNode& node, ViewEvents& events) : content_(
         outer_ = GObjectPtr<GtkWidget>::share(inner_);
     }
     if (node.element.modifiers().announcement) {
-        g_object_set(outer_.get(), "accessible-role", GTK_ACCESSIBLE_ROLE_ALERT, nullptr);
+        announceWhenSeen();
     }
     apply(node.element);
 }
@@ -151,6 +151,18 @@ GtkWidget* ViewWidgets::makeContent(const RenderNode& node, ViewEvents& events)
         return expanding(static_cast<WidgetView*>(platformView_->native())->widget());
     }
     return layerBoxNew();
+}
+
+// The toolkit of this generation tells assistive programs of no new element, but always of where the keyboard is.
+void ViewWidgets::announceWhenSeen()
+{
+    GtkWidget* outer = outer_.get();
+    g_object_set(outer, "accessible-role", GTK_ACCESSIBLE_ROLE_ALERT, nullptr);
+    connections_.push_back(SignalConnection::make<void(GtkWidget*)>(outer, "map", [](GtkWidget* mapped) {
+        if (gtk_widget_get_focusable(mapped)) {
+            gtk_widget_grab_focus(mapped);
+        }
+    }));
 }
 
 void ViewWidgets::update(const RenderNode& before, const RenderNode& after)
@@ -192,6 +204,7 @@ void ViewWidgets::apply(const Element& element)
     if (modifiers.announcement) {
         gtk_accessible_update_property(GTK_ACCESSIBLE(outer), GTK_ACCESSIBLE_PROPERTY_LABEL,
                                        modifiers.announcement->c_str(), -1);
+        gtk_widget_set_focusable(outer, isSeen);
     }
     layerBoxSetPosition(outer, modifiers.position);
     gtk_widget_set_sensitive(outer, modifiers.enabled);

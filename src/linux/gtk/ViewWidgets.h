@@ -31,6 +31,7 @@ public:
 
 private:
     [[nodiscard]] GtkWidget* makeContent(const RenderNode& node, ViewEvents& events);
+    void announceWhenSeen();
     void apply(const Element& element);
     void applyText(const Element& element);
     void applyFrame(const Modifiers& modifiers);
