@@ -36,7 +36,7 @@ struct DesktopSettings {
 };
 
 /// Every port of the Linux desktop. Making one does no work beyond the process's own settings; the toolkit starts with
-/// the application. One a process, main thread only.
+/// the application. One at a time in a process, main thread only.
 class Desktop {
 public:
     explicit Desktop(const DesktopSettings& settings);
