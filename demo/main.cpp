@@ -60,7 +60,8 @@ int main(int count, char** arguments)
     }
     orken::desktop::Desktop desktop({.bundleIdentifier = provider->endpoints.bundleIdentifier,
                                      .version = provider->endpoints.version,
-                                     .certificateAuthorityFile = provider->certificateAuthority});
+                                     .certificateAuthorityFile = provider->certificateAuthority,
+                                     .expectedHost = provider->endpoints.loginHost});
     orken::VistroApp app(orken::portsOf(desktop), provider->endpoints);
     return app.main();
 }

@@ -1,6 +1,8 @@
 #include "linux/Desktop.h"
 
+#include <EGL/egl.h>
 #include <csignal>
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <filesystem>
 #include <gdk/x11/gdkx.h>
@@ -35,6 +37,23 @@ void openStandardStreams()
     }
 }
 
+/// Lets this process's EGL settle on having no driver. The engine asks for one when it starts, also to draw in
+/// software: without a graphics card it got one that brings a compiler along, 50 ms and 20 MB for nothing. The pages'
+/// processes do not start without a driver, so the variable must not reach them; EGL reads it once.
+void settleOnNoGraphicsDriver()
+{
+    constexpr const char* kDrivers = "__EGL_VENDOR_LIBRARY_FILENAMES";
+    void* library = g_getenv(kDrivers) ? nullptr : dlopen("libEGL.so.1", RTLD_LAZY);
+    if (!library) {
+        return;
+    }
+    if (const auto query = reinterpret_cast<decltype(&eglQueryString)>(dlsym(library, "eglQueryString"))) {
+        g_setenv(kDrivers, "/nonexistent", TRUE);
+        (void)query(EGL_NO_DISPLAY, EGL_EXTENSIONS);
+        g_unsetenv(kDrivers);
+    }
+}
+
 /// Settings of the libraries below, unless the user has made them, before anything of them is made: some are read at
 /// once, some when the toolkit and the engine start. Answers whether there is a render node.
 bool prepareProcess()
@@ -54,6 +73,7 @@ bool prepareProcess()
         g_setenv("GSK_RENDERER", "cairo", FALSE);
         // Nor is it worth the loading of a software driver, which the toolkit does before the first window.
         g_setenv("GDK_DEBUG", "gl-disable", FALSE);
+        settleOnNoGraphicsDriver();
     }
     if (g_file_test("/proc/driver/nvidia/version", G_FILE_TEST_EXISTS)) {
         // The driver shows black pages for the buffers that the engine shares in this way.
@@ -77,6 +97,7 @@ Desktop::Desktop(const DesktopSettings& settings)
       runningApplications(settings.bundleIdentifier, displayName), urlSession(settings.certificateAuthorityFile),
       contentsReader(settings.certificateAuthorityFile),
       engine({.bundleIdentifier = settings.bundleIdentifier,
+              .expectedHost = settings.expectedHost,
               .hasRenderNode = renderNode_,
               .report = [](const std::string& line) { reportDiagnostic(line); }}),
       screens(notifications, [this] { return windows.alertParent(); }),

@@ -33,6 +33,8 @@ struct DesktopSettings {
     std::string version;
     /// Trusted by the URL session in place of the system's authorities; for a provider on this machine.
     std::optional<std::string> certificateAuthorityFile;
+    /// Of the first page, host or host:port: the engine connects to it while the start window is open. Empty: to none.
+    std::string expectedHost;
 };
 
 /// Every port of the Linux desktop. Making one does no work beyond the process's own settings; the toolkit starts with

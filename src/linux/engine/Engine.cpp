@@ -12,7 +12,7 @@ Engine::Engine(const EngineSettings& settings)
 void Engine::warmUp()
 {
     if (!spare_) {
-        spare_ = std::make_unique<SpareView>(session_.makeView());
+        spare_ = std::make_unique<SpareView>(session_.makeView(), settings_.expectedHost);
     }
 }
 

@@ -17,7 +17,7 @@ public:
     virtual ~EngineModule() = default;
 
     /// Makes a spare view ready in which a blank page has finished loading; the next view that is made is that one.
-    /// Requests nothing from the network and leaves no site data.
+    /// Connects to the expected host but requests nothing, and leaves no site data.
     virtual void warmUp() = 0;
 
     [[nodiscard]] virtual BrowserViews& browserViews() = 0;
@@ -34,6 +34,8 @@ public:
 struct EngineSettings {
     /// Names the engine's own folders below the user's data and cache folders.
     std::string bundleIdentifier;
+    /// Of the first page, host or host:port; empty when it is not known.
+    std::string expectedHost;
     /// There is a GPU to draw with; without one the engine draws in software.
     bool hasRenderNode = false;
     /// One diagnostic line on standard error.

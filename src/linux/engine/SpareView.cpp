@@ -1,10 +1,26 @@
 #include "linux/engine/SpareView.h"
 
+#include <memory>
 #include <utility>
 
 namespace orken::desktop {
 
-SpareView::SpareView(GObjectPtr<WebKitWebView> view) : view_(std::move(view))
+namespace {
+
+std::string blankPage(const std::string& expectedHost)
+{
+    std::string page = "<!DOCTYPE html>";
+    if (!expectedHost.empty()) {
+        // The address lookup, the TLS library with its authorities and the handshake, but no request.
+        const std::unique_ptr<char, decltype(&g_free)> host(g_markup_escape_text(expectedHost.c_str(), -1), g_free);
+        page += std::string("<link rel=preconnect href=\"https://") + host.get() + "/\">";
+    }
+    return page;
+}
+
+} // namespace
+
+SpareView::SpareView(GObjectPtr<WebKitWebView> view, const std::string& expectedHost) : view_(std::move(view))
 {
     loadChanged_ = SignalConnection::make<void(WebKitWebView*, WebKitLoadEvent)>(
         view_.get(), "load-changed", [this](WebKitWebView*, WebKitLoadEvent event) {
@@ -17,7 +33,7 @@ SpareView::SpareView(GObjectPtr<WebKitWebView> view) : view_(std::move(view))
         view_.get(), "web-process-terminated",
         [this](WebKitWebView*, WebKitWebProcessTerminationReason) { becomeReady(); });
     // A text, not the address about:blank, which would stay in the history as a page to go back to.
-    webkit_web_view_load_html(view_.get(), "<!DOCTYPE html>", nullptr);
+    webkit_web_view_load_html(view_.get(), blankPage(expectedHost).c_str(), nullptr);
 }
 
 void SpareView::whenReady(std::function<void()> callback)

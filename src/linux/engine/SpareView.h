@@ -6,14 +6,15 @@
 #include <webkit/webkit.h>
 
 #include <functional>
+#include <string>
 
 namespace orken::desktop {
 
-/// A view in which a blank page is loaded ahead of time, so that its processes run and the first real page does not
-/// wait for them. Main thread only.
+/// A view in which a blank page is loaded ahead of time, so that its processes run, and the engine is connected to the
+/// site (host or host:port; empty: to none), so that the first real page waits for neither. Main thread only.
 class SpareView {
 public:
-    explicit SpareView(GObjectPtr<WebKitWebView> view);
+    SpareView(GObjectPtr<WebKitWebView> view, const std::string& expectedHost);
 
     [[nodiscard]] const GObjectPtr<WebKitWebView>& view() const { return view_; }
 
