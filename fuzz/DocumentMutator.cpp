@@ -8,51 +8,7 @@ namespace orken::fuzz {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
-
-// What JSON's writer would not write is marked in texts and put right in what it has written: a value that is to stand
-// without quotes, a key that is there twice.
-constexpr std::string_view kBareBegin = "~bare(";
-constexpr std::string_view kBareEnd = ")bare~";
-constexpr std::string_view kAgain = "~again~";
-
-Json bare(std::string_view token)
-{
-    return std::string(kBareBegin) + std::string(token) + std::string(kBareEnd);
-}
-
-std::string withoutMark(std::string_view text, std::string_view mark)
-{
-    std::string result;
-    for (std::size_t end = text.find(mark); end != std::string_view::npos; end = text.find(mark)) {
-        result += text.substr(0, end);
-        text.remove_prefix(end + mark.size());
-    }
-    return result.append(text);
-}
-
-/// What stands between the quotes of a text, with its own quotes as they were.
-std::string unquoted(std::string_view text)
-{
-    return withoutMark(text, "\\");
-}
-
-std::string written(const Json& root)
-{
-    const std::string dumped = root.dump(-1, ' ', false, Json::error_handler_t::replace);
-    std::string_view text = dumped;
-    std::string result;
-    const std::string begin = '"' + std::string(kBareBegin);
-    const std::string end = std::string(kBareEnd) + '"';
-    for (std::size_t at = text.find(begin); at != std::string_view::npos; at = text.find(begin)) {
-        result += text.substr(0, at);
-        text.remove_prefix(at + begin.size());
-        const std::size_t length = text.find(end);
-        result += unquoted(text.substr(0, length));
-        text.remove_prefix(length + end.size());
-    }
-    return withoutMark(result.append(text), kAgain);
-}
+using Json = OrderedJson;
 
 void collect(Json& value, std::vector<Json*>& found)
 {
@@ -168,7 +124,7 @@ void DocumentMutator::duplicateMember(Json& root)
     if (parent.is_object() && !parent.empty()) {
         const auto member = std::next(parent.begin(), static_cast<std::ptrdiff_t>(below(parent.size())));
         Json value = below(2) == 0 ? member.value() : otherType();
-        parent[std::string(kAgain) + member.key()] = std::move(value);
+        parent[again(member.key())] = std::move(value);
     } else if (parent.is_array() && !parent.empty()) {
         parent.push_back(Json(parent[below(parent.size())]));
     }

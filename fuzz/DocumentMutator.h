@@ -1,6 +1,6 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
+#include "MarkedJson.h"
 
 #include <cstddef>
 #include <random>
@@ -19,8 +19,7 @@ public:
     [[nodiscard]] std::string next();
 
 private:
-    /// Keeps the members' order, which matters to the renderer.
-    using Json = nlohmann::ordered_json;
+    using Json = OrderedJson;
 
     [[nodiscard]] std::size_t below(std::size_t limit) { return static_cast<std::size_t>(random_() % limit); }
 

@@ -5,6 +5,7 @@
 #include "linux/gtk/StackBox.h"
 #include "linux/gtk/SymbolWidget.h"
 #include "linux/gtk/TextShadow.h"
+#include "linux/gtk/TextStyle.h"
 
 #include <cmath>
 
@@ -23,38 +24,6 @@ GdkRGBA rgba(const Color& color)
             .green = static_cast<float>(color.green),
             .blue = static_cast<float>(color.blue),
             .alpha = static_cast<float>(color.alpha)};
-}
-
-/// How much larger than usual the user wants texts: the size of the desktop's font. Its text scale comes on top.
-double fontScale()
-{
-    constexpr double kUsualPoints = 11;
-    gchar* name = nullptr;
-    g_object_get(gtk_settings_get_default(), "gtk-font-name", &name, nullptr);
-    PangoFontDescription* font = pango_font_description_from_string(name ? name : "");
-    const bool isInPoints = !pango_font_description_get_size_is_absolute(font);
-    const double points = isInPoints ? pango_font_description_get_size(font) / static_cast<double>(PANGO_SCALE) : 0;
-    pango_font_description_free(font);
-    g_free(name);
-    return std::max(points / kUsualPoints, 1.0);
-}
-
-/// Sizes of the text roles in typographic points, with the usual font.
-std::optional<int> fontPoints(Font font)
-{
-    switch (font) {
-    case Font::body:
-        return std::nullopt;
-    case Font::headline:
-        return 13;
-    case Font::caption:
-        return 10;
-    case Font::largeTitle:
-        return 26;
-    case Font::system36:
-        break;
-    }
-    return 36;
 }
 
 /// The first text inside, which is what a screen reader says for a button.
@@ -218,25 +187,8 @@ void ViewWidgets::applyText(const Element& element)
     }
     const GText valid(g_utf8_make_valid(text->text.data(), static_cast<gssize>(text->text.size())));
     gtk_label_set_text(GTK_LABEL(inner_), valid.get());
-
-    PangoAttrList* attributes = pango_attr_list_new();
-    const Modifiers& modifiers = element.modifiers();
-    if (const auto points = fontPoints(modifiers.font)) {
-        pango_attr_list_insert(attributes, pango_attr_size_new(pixels(*points * fontScale() * PANGO_SCALE)));
-    }
-    if (modifiers.font == Font::headline) {
-        pango_attr_list_insert(attributes, pango_attr_weight_new(PANGO_WEIGHT_BOLD));
-    }
-    if (modifiers.foreground) {
-        const auto channel = [](double value) { return static_cast<guint16>(std::lround(value * 65535)); };
-        const Color& color = *modifiers.foreground;
-        pango_attr_list_insert(
-            attributes, pango_attr_foreground_new(channel(color.red), channel(color.green), channel(color.blue)));
-        pango_attr_list_insert(attributes, pango_attr_foreground_alpha_new(channel(color.alpha)));
-    }
-    gtk_label_set_attributes(GTK_LABEL(inner_), attributes);
-    applyTextShadow(inner_, modifiers.shadow);
-    pango_attr_list_unref(attributes);
+    gtk_label_set_attributes(GTK_LABEL(inner_), textAttributes(element.modifiers()).get());
+    applyTextShadow(inner_, element.modifiers().shadow);
 }
 
 void ViewWidgets::applyFrame(const Modifiers& modifiers)
