@@ -80,11 +80,6 @@ class FaultCase(ClientCase):
     def assert_full_screen(self, client):
         client.wait_for("full screen", self.is_full_screen, limit=10.0)
 
-    def active_title(self):
-        """Of the window that has the keyboard; empty when none has it."""
-        active = self.desktop.screen.active_window()
-        return active.title if active else ""
-
     def question_is_up(self):
         return self.active_title() == EXIT_QUESTION
 

@@ -56,6 +56,11 @@ class ClientCase(unittest.TestCase):
         queries = [request["query"] for request in provider.requests() if request["path"] == "/demo/seen"]
         return [query for query in queries if wanted in query.split("&")]
 
+    def active_title(self):
+        """Of the window that has the keyboard; empty when none has it."""
+        active = self.desktop.screen.active_window()
+        return active.title if active else ""
+
     def home(self):
         return pathlib.Path(self.environment["HOME"])
 
