@@ -12,7 +12,7 @@ import time
 import urllib.parse
 
 from harness.client import USER_AGENT
-from virtual_desktop import Client, NotReached, Provider, VirtualDesktop
+from virtual_desktop import Client, NotReached, Provider, VirtualDesktop, wait_for
 
 _ROOT = pathlib.Path(__file__).resolve().parent.parent
 
@@ -65,10 +65,11 @@ class Tour:
 
     def sign_in(self):
         """The page has the keyboard and its form has the focus, so a user only types."""
-        began = time.monotonic()
-        self._desktop.screen.type("öğrenci\tgizli\n")
+        self._desktop.screen.type("öğrenci\tgizli")
+        before, began = self._desktop.screen.image(), time.monotonic()
+        self._desktop.screen.type("\n")
         self._provider.wait_for_page("session", since=began, guests=[self._client.guest])
-        return self._picture("signed-in")
+        return self._picture_of_another_page("signed-in", before)
 
     def document(self):
         """By the page's navigation to the documents; the first one's button has the focus there."""
@@ -103,6 +104,18 @@ class Tour:
 
     def _program(self, name):
         return str(self._options.build / "demo" / name)
+
+    def _picture_of_another_page(self, name, before):
+        """Once the screen shows something else than before, and has come to rest: a page reports itself undrawn."""
+        last = before
+
+        def at_rest():
+            nonlocal last
+            shown, last = last, self._desktop.screen.image()
+            return last == shown != before
+
+        wait_for(f"{name} on the screen, at rest", at_rest, guests=[self._client.guest], interval=0.3)
+        return self._picture(name)
 
     def _picture(self, name):
         self._pictures += 1

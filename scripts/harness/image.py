@@ -36,6 +36,9 @@ class Image:
     def from_bgrx(cls, width, height, data):
         return cls(width, height, data[2::4], data[1::4], data[0::4])
 
+    def __eq__(self, other):
+        return isinstance(other, Image) and (self.width, self._planes) == (other.width, other._planes)
+
     def pixel(self, x, y):
         index = y * self.width + x
         return tuple(plane[index] for plane in self._planes)

@@ -11,6 +11,7 @@ from harness.image import Rectangle
 from virtual_desktop import wait_for
 
 OTHER_APPLICATIONS = "Devam edebilmek için aşağıdaki açık uygulamalar kapatılacak, onaylıyor musunuz?"
+WAITING = "Yükleniyor..."
 WATERMARK = '<b>Öğrenci & "4711"</b>'
 # Places on the demo's pages, whose content the engine keeps from the toolkit's tree.
 NAVIGATION_TOP, COURSE_FROM_RIGHT, DOCUMENTS_FROM_RIGHT = 81, 220, 129
@@ -41,9 +42,12 @@ class Person(ClientCase):
         area = self.accessibility.extents(element)
         return Rectangle(frame.x + area.x, frame.y + area.y, area.width, area.height)
 
+    def contrast(self, element):
+        return self.desktop.screen.image().contrast(self.on_screen(element))
+
     def assert_can_be_read(self, name, window):
-        area = self.on_screen(self.hears("label", name, window))
-        self.assertGreaterEqual(self.desktop.screen.image().contrast(area), 4.5, name)
+        element = self.hears("label", name, window)
+        wait_for(f"{name!r} to be told from what is behind it", lambda: self.contrast(element) >= 4.5)
 
     def focus_moves_to(self, name):
         """With the next Tab, for the eye and for the ear."""
@@ -90,7 +94,7 @@ class Person(ClientCase):
 
         self.go(provider, client, "documents", right - DOCUMENTS_FROM_RIGHT, NAVIGATION_TOP)
         client.wait_for("the watermark's end", lambda: not self.accessibility.find("label", WATERMARK))
-        self.assertIsNone(self.accessibility.find("label", "Yükleniyor..."))
+        self.assertIsNone(self.accessibility.find("label", WAITING))
         self.desktop.screen.key("Return")
         saved = client.guest.wait_for_line("başarıyla indirildi.").text
         self.hears("label", saved)
@@ -124,8 +128,8 @@ class Person(ClientCase):
         client.open_application()
         client.wait_for_session_window()
         focused = wait_for("what is told of the wait", self.accessibility.focused)
-        self.assertEqual((focused.role, focused.name), ("alert", "Yükleniyor..."))
-        self.assert_can_be_read("Yükleniyor...", SESSION_TITLE)
+        self.assertEqual((focused.role, focused.name), ("alert", WAITING))
+        self.assert_can_be_read(WAITING, SESSION_TITLE)
         self.focus_moves_to("Çıkış")
         self.assertEqual(client.guest.terminate(), 0)
 
