@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 
 namespace orken::desktop {
 
@@ -49,17 +48,17 @@ guint16 channel(double value)
 
 } // namespace
 
-TextAttributes textAttributes(const Modifiers& modifiers)
+TextAttributes textAttributes(Font font, const std::optional<Color>& color)
 {
     TextAttributes attributes(pango_attr_list_new(), pango_attr_list_unref);
-    if (const auto points = fontPoints(modifiers.font)) {
+    if (const auto points = fontPoints(font)) {
         const auto size = static_cast<int>(std::lround(*points * fontScale() * PANGO_SCALE));
         pango_attr_list_insert(attributes.get(), pango_attr_size_new(size));
     }
-    if (modifiers.font == Font::headline) {
+    if (font == Font::headline) {
         pango_attr_list_insert(attributes.get(), pango_attr_weight_new(PANGO_WEIGHT_BOLD));
     }
-    if (const auto& color = modifiers.foreground) {
+    if (color) {
         pango_attr_list_insert(attributes.get(), pango_attr_foreground_new(channel(color->red), channel(color->green),
                                                                            channel(color->blue)));
         pango_attr_list_insert(attributes.get(), pango_attr_foreground_alpha_new(channel(color->alpha)));

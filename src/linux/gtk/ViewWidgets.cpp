@@ -185,10 +185,11 @@ void ViewWidgets::applyText(const Element& element)
     if (!text) {
         return;
     }
+    const Modifiers& modifiers = element.modifiers();
     const GText valid(g_utf8_make_valid(text->text.data(), static_cast<gssize>(text->text.size())));
     gtk_label_set_text(GTK_LABEL(inner_), valid.get());
-    gtk_label_set_attributes(GTK_LABEL(inner_), textAttributes(element.modifiers()).get());
-    applyTextShadow(inner_, element.modifiers().shadow);
+    gtk_label_set_attributes(GTK_LABEL(inner_), textAttributes(modifiers.font, modifiers.foreground).get());
+    applyTextShadow(inner_, modifiers.shadow);
 }
 
 void ViewWidgets::applyFrame(const Modifiers& modifiers)
