@@ -77,13 +77,13 @@ class Tour:
         self._provider.wait_for_page("documents", since=began, guests=[self._client.guest])
         self._desktop.screen.key("Return")
         saved = self._client.guest.wait_for_line("başarıyla indirildi.").text
-        self._client.wait_for("the alert", lambda: self._active_title() == saved)
+        self._client.wait_for("the alert", lambda: self._desktop.screen.active_title() == saved)
         picture = self._picture("saved")
         file = pathlib.Path(self._desktop.environment["HOME"], "Downloads", saved.split(" ")[0])
         _expect(file.read_bytes().startswith(b"%PDF-"), f"{file} is no PDF")
         self._desktop.screen.key("Tab")
         self._desktop.screen.key("Return")
-        self._client.wait_for("the page again", lambda: self._active_title() != saved)
+        self._client.wait_for("the page again", lambda: self._desktop.screen.active_title() != saved)
         return picture
 
     def end(self):
@@ -97,10 +97,6 @@ class Tour:
         if self._client:
             for line in self._client.guest.lines()[-20:]:
                 print(f"      {line.stream}: {line.text}")
-
-    def _active_title(self):
-        active = self._desktop.screen.active_window()
-        return active and active.title
 
     def _program(self, name):
         return str(self._options.build / "demo" / name)

@@ -28,15 +28,10 @@ def second_copies(case):
     case.ask_to_exit(client)
     case.assert_ends(case.client(provider))
     case.assertTrue(case.question_is_up())
-    case.desktop.screen.key("Tab")
-    case.desktop.screen.key("Return")
-    client.wait_for("the session", lambda: not case.question_is_up())
+    case.deny_exit(client)
     case.assert_exit_button_works(client)
 
-    waiting = case.provider("--echo", "slow:120")
-    first = case.client(waiting)
-    clicked = first.open_application()
-    waiting.wait_for_request("the address", lambda request: request["server"] == "echo", clicked)
-    case.assert_ends(case.client(waiting))
+    first = case.client_waiting_for_its_address()
+    case.assert_ends(case.client(first.provider))
     case.assertEqual(first.guest.terminate(), 0)
     return f"{_COPIES + 3} copies gone at once, the first one's windows, full screen, question, exit button"

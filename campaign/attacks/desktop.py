@@ -22,9 +22,7 @@ def window_manager_restarted(case):
     case.ask_to_exit(client)
     case.desktop.end_window_manager()
     _start_window_manager(case, client)
-    case.desktop.screen.key("Tab")
-    case.desktop.screen.key("Return")
-    client.wait_for("the session", lambda: not case.question_is_up())
+    case.deny_exit(client)
     case.follow(client, provider, DOCUMENTS_FROM_RIGHT, "documents")
     case.assert_exit_button_works(client)
     return "the page without and with it, full screen, the question, the exit button"

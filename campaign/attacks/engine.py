@@ -56,10 +56,10 @@ def web_process_killed(case):
     case.follow(client, provider, DOCUMENTS_FROM_RIGHT, "documents")
     case.desktop.screen.key("Return")
     client.guest.wait_for_line("başarıyla indirildi.")
-    client.wait_for("the document's alert", lambda: "indirildi" in case.active_title())
+    client.wait_for("the document's alert", lambda: "indirildi" in case.desktop.screen.active_title())
     case.desktop.screen.key("Tab")
     case.desktop.screen.key("Return")
-    client.wait_for("the session", lambda: "indirildi" not in case.active_title())
+    client.wait_for("the session", lambda: "indirildi" not in case.desktop.screen.active_title())
     again = len([line for line in client.guest.lines("stderr") if "is loaded again" in line.text])
     case.assertEqual(again, _KILLS)
 

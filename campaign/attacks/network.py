@@ -131,4 +131,4 @@ def _saved(client):
 
 
 def _alert_is_up(case):
-    return "başarıyla indirildi." in case.active_title()
+    return "başarıyla indirildi." in case.desktop.screen.active_title()

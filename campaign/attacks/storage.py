@@ -40,7 +40,7 @@ class DocumentsCase(FaultCase):
             client.wait_for("the session", lambda: not self.alert_is_up())
 
     def alert_is_up(self):
-        return _SAVED in self.active_title()
+        return _SAVED in self.desktop.screen.active_title()
 
 
 def _shell(redirections):

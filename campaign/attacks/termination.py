@@ -3,8 +3,6 @@
 import pathlib
 import signal
 
-from harness.client import SESSION_TITLE
-
 from .fault_case import VIDEO, attack
 from .relay import Relay
 
@@ -32,12 +30,7 @@ def _gate(case):
 
 
 def _echo(case):
-    provider = case.provider("--echo", "slow:120")
-    client = case.client(provider)
-    clicked = client.open_application()
-    provider.wait_for_request("the address", lambda request: request["server"] == "echo", clicked)
-    client.wait_for("the session window", lambda: case.desktop.screen.window(SESSION_TITLE))
-    return client
+    return case.client_waiting_for_its_address()
 
 
 def _login_loading(case):

@@ -8,6 +8,8 @@ import unittest
 from on_virtual_desktop import SANITIZERS
 from virtual_desktop import Client, Provider, VirtualDesktop
 
+from .client import SESSION_TITLE
+
 BUNDLE = "com.orken.app"
 _BUILD = None
 
@@ -43,6 +45,15 @@ class ClientCase(unittest.TestCase):
         provider.wait_for_page("login", clicked, guests=[client.guest])
         return client, provider.requests(clicked)
 
+    def client_waiting_for_its_address(self):
+        """Its session window is on the screen, empty, while the main thread reads for two minutes."""
+        provider = self.provider("--echo", "slow:120")
+        client = self.client(provider)
+        clicked = client.open_application()
+        provider.wait_for_request("the address", lambda request: request["server"] == "echo", clicked)
+        client.wait_for("the session window", lambda: self.desktop.screen.window(SESSION_TITLE))
+        return client
+
     def assert_ends(self, client, status=0):
         client.guest.wait_exit()
         self.assertEqual(client.guest.exit_status(), status, client.guest.describe_end())
@@ -55,11 +66,6 @@ class ClientCase(unittest.TestCase):
         wanted = f"what={what}"
         queries = [request["query"] for request in provider.requests() if request["path"] == "/demo/seen"]
         return [query for query in queries if wanted in query.split("&")]
-
-    def active_title(self):
-        """Of the window that has the keyboard; empty when none has it."""
-        active = self.desktop.screen.active_window()
-        return active.title if active else ""
 
     def home(self):
         return pathlib.Path(self.environment["HOME"])

@@ -79,6 +79,11 @@ class Screen:
         active = xlib.numbers_property(self._display, self.root, "_NET_ACTIVE_WINDOW")
         return next((window for window in self.windows() if window.id in active), None)
 
+    def active_title(self):
+        """Of the window with the keyboard; empty when none has it."""
+        active = self.active_window()
+        return active.title if active else ""
+
     def image(self):
         """What the screen shows now, without the pointer."""
         size = self.width, self.height

@@ -27,7 +27,7 @@ class MachineCase(ClientCase):
         return next((window for window in self.desktop.screen.windows() if window.pid == guest.pid), None)
 
     def wait_for_alert(self, text):
-        wait_for(f"the alert {text!r}", lambda: self.active_title().startswith(text))
+        wait_for(f"the alert {text!r}", lambda: self.desktop.screen.active_title().startswith(text))
 
 
 class Gate(MachineCase):
@@ -123,10 +123,10 @@ class Keys(MachineCase):
             self.desktop.screen.key(key)
         # Nor does the exit button keep the keys, when the question that it asks is denied.
         self.desktop.screen.click(self.desktop.screen.width - 31, 31)
-        client.wait_for("the question", lambda: self.active_title().startswith("Çıkış"))
+        client.wait_for("the question", lambda: self.desktop.screen.active_title().startswith("Çıkış"))
         self.desktop.screen.key("Tab")
         self.desktop.screen.key("Return")
-        client.wait_for("the session", lambda: self.active_title() == SESSION_TITLE)
+        client.wait_for("the session", lambda: self.desktop.screen.active_title() == SESSION_TITLE)
         self.desktop.screen.key("b")
         provider.wait_for_request("the last key", lambda request: "what=key&key=b" in request["query"])
         keys = [query.removeprefix("what=key&key=") for query in self.seen(provider, "key")]

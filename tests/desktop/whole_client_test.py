@@ -104,13 +104,9 @@ class Road(ClientCase):
     def test_closing_the_start_window_is_quitting(self):
         client = self.client(self.provider())
         client.wait_for_start_window()
-        client.wait_for("the keyboard", lambda: self.active_title() == START_TITLE)
+        client.wait_for("the keyboard", lambda: self.desktop.screen.active_title() == START_TITLE)
         self.desktop.screen.key("alt+F4")
         self.assert_ends(client)
-
-    def active_title(self):
-        active = self.desktop.screen.active_window()
-        return active and active.title
 
     def test_a_second_copy_presents_the_first_and_goes(self):
         provider = self.provider()
@@ -148,14 +144,9 @@ class Faults(ClientCase):
                 self.assertEqual(len(asked), 1 if has_session else 0)
 
     def test_a_termination_signal_ends_the_wait_for_a_slow_address(self):
-        provider = self.provider("--echo", "slow:120")
-        client = self.client(provider)
-        clicked = client.open_application()
-        provider.wait_for_request("the address", lambda request: request["server"] == "echo", clicked)
-        # The window is on the screen, empty, while the main thread waits.
-        client.wait_for("the session window", lambda: self.desktop.screen.window(SESSION_TITLE))
+        client = self.client_waiting_for_its_address()
         # It cannot answer a second copy now, which goes all the same.
-        self.assert_ends(self.client(provider))
+        self.assert_ends(self.client(client.provider))
         client.guest.signal(signal.SIGTERM)
         self.assert_ends(client)
         self.assertEqual(self.stdout(client)[-1], "asdasdasdasd: nil")

@@ -1,6 +1,5 @@
 #include "linux/engine/SpareView.h"
 
-#include <memory>
 #include <utility>
 
 namespace orken::desktop {
@@ -12,7 +11,7 @@ std::string blankPage(const std::string& expectedHost)
     std::string page = "<!DOCTYPE html>";
     if (!expectedHost.empty()) {
         // The address lookup, the TLS library with its authorities and the handshake, but no request.
-        const std::unique_ptr<char, decltype(&g_free)> host(g_markup_escape_text(expectedHost.c_str(), -1), g_free);
+        const GText host(g_markup_escape_text(expectedHost.c_str(), -1));
         page += std::string("<link rel=preconnect href=\"https://") + host.get() + "/\">";
     }
     return page;

@@ -44,7 +44,7 @@ public:
     /// No event reaches the views from here on.
     void silence();
 
-    /// Calls back once what has been set so far is on the screen.
+    /// On a later turn of the main loop, and not before a first frame of the window is on the screen.
     void afterFirstFrame(std::function<void()> callback) { host_->afterFirstFrame(std::move(callback)); }
 
     [[nodiscard]] GtkWindow* gtkWindow() const { return window_; }

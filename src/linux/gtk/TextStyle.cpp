@@ -1,5 +1,7 @@
 #include "linux/gtk/TextStyle.h"
 
+#include "linux/GObjectPtr.h"
+
 #include <gtk/gtk.h>
 
 #include <algorithm>
@@ -15,11 +17,11 @@ double fontScale()
     constexpr double kUsualPoints = 11;
     gchar* name = nullptr;
     g_object_get(gtk_settings_get_default(), "gtk-font-name", &name, nullptr);
+    const GText owned(name);
     PangoFontDescription* font = pango_font_description_from_string(name ? name : "");
     const bool isInPoints = !pango_font_description_get_size_is_absolute(font);
     const double points = isInPoints ? pango_font_description_get_size(font) / static_cast<double>(PANGO_SCALE) : 0;
     pango_font_description_free(font);
-    g_free(name);
     return std::max(points / kUsualPoints, 1.0);
 }
 
