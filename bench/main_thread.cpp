@@ -2,9 +2,9 @@
 // windows (or as many as the argument says), and the version gate's call. Run on a virtual desktop. Prints one JSON
 // object, times in milliseconds.
 
-#include "app/OtherApplications.h"
 #include "app/VersionGate.h"
 #include "linux/Desktop.h"
+#include "machine/OtherApplications.h"
 
 #include <algorithm>
 #include <chrono>

@@ -4,10 +4,10 @@
 
 #include "animation/DocumentChecker.h"
 #include "animation/LottieView.h"
-#include "app/OtherApplications.h"
 #include "browser/PageScripts.h"
 #include "linux/Desktop.h"
 #include "linux/services/InstalledFolders.h"
+#include "machine/OtherApplications.h"
 
 #include <gtk/gtk.h>
 

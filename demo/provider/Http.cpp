@@ -1,6 +1,6 @@
 #include "provider/Http.h"
 
-#include "linux/GObjectPtr.h"
+#include "linux/loop/GObjectPtr.h"
 
 #include <glib.h>
 

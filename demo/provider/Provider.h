@@ -6,7 +6,7 @@
 #include "provider/Server.h"
 #include "provider/Site.h"
 
-#include "linux/GObjectPtr.h"
+#include "linux/loop/GObjectPtr.h"
 
 #include <gio/gio.h>
 

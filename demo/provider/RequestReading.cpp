@@ -1,6 +1,6 @@
 #include "provider/RequestReading.h"
 
-#include "linux/GObjectPtr.h"
+#include "linux/loop/GObjectPtr.h"
 
 #include <string>
 

@@ -3,7 +3,7 @@
 #include "provider/Http.h"
 #include "provider/RequestLog.h"
 
-#include "linux/GObjectPtr.h"
+#include "linux/loop/GObjectPtr.h"
 
 #include <libsoup/soup.h>
 

@@ -2,7 +2,7 @@
 
 #include "provider/Failure.h"
 
-#include "linux/GObjectPtr.h"
+#include "linux/loop/GObjectPtr.h"
 
 #include <gio/gio.h>
 

@@ -1,7 +1,7 @@
 #include "../Target.h"
 
-#include "app/SavedState.h"
 #include "foundation/PropertyList.h"
+#include "machine/SavedState.h"
 #include "simulated/SimulatedDesktop.h"
 
 #include <limits>

@@ -1,6 +1,6 @@
 #include "app/AppDelegate.h"
 
-#include "app/BrowsingData.h"
+#include "machine/BrowsingData.h"
 
 namespace orken {
 

@@ -1,7 +1,7 @@
 #include "app/FirstView.h"
 
 #include "app/HostingWindow.h"
-#include "app/QuitApplication.h"
+#include "machine/QuitApplication.h"
 
 namespace orken {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/OtherApplications.h"
-#include "app/SavedState.h"
-#include "app/Uninstall.h"
 #include "app/VersionGate.h"
+#include "machine/OtherApplications.h"
+#include "machine/SavedState.h"
+#include "machine/Uninstall.h"
 #include "platform/Application.h"
 #include "platform/Windows.h"
 #include "view/View.h"

@@ -1,9 +1,9 @@
 #include "app/VersionGate.h"
 
-#include "app/QuitApplication.h"
 #include "foundation/Json.h"
 #include "foundation/NumericCompare.h"
 #include "foundation/Text.h"
+#include "machine/QuitApplication.h"
 
 namespace orken {
 

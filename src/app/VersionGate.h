@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Uninstall.h"
+#include "machine/Uninstall.h"
 #include "platform/Application.h"
 #include "platform/BundleInfo.h"
 #include "platform/Console.h"

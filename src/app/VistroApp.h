@@ -1,18 +1,18 @@
 #pragma once
 
 #include "app/AppDelegate.h"
-#include "app/OtherApplications.h"
-#include "app/Ports.h"
-#include "app/SavedState.h"
-#include "app/Uninstall.h"
 #include "app/VersionGate.h"
 #include "browser/LoginParameter.h"
 #include "browser/PageScripts.h"
 #include "browser/PdfDownload.h"
 #include "browser/PeriodicCheck.h"
 #include "crypto/DeviceIdentity.h"
-#include "foundation/Endpoints.h"
-#include "session/WindowControl.h"
+#include "machine/OtherApplications.h"
+#include "machine/SavedState.h"
+#include "machine/Uninstall.h"
+#include "machine/WindowControl.h"
+#include "platform/Ports.h"
+#include "provider/Endpoints.h"
 
 namespace orken {
 

@@ -2,9 +2,9 @@
 
 #include "browser/LoginParameter.h"
 #include "browser/PdfDownload.h"
+#include "browser/WebViewModel.h"
 #include "platform/Console.h"
 #include "platform/NavigationDelegate.h"
-#include "session/WebViewModel.h"
 
 #include <memory>
 

@@ -1,10 +1,10 @@
 #include "browser/LoginParameter.h"
 
 #include "crypto/AESCrypto.h"
-#include "crypto/ApplicationKey.h"
 #include "foundation/Dates.h"
 #include "foundation/Text.h"
 #include "foundation/Url.h"
+#include "provider/ApplicationKey.h"
 
 namespace orken {
 

@@ -2,10 +2,10 @@
 
 #include "browser/PageValues.h"
 #include "browser/PeriodicCheck.h"
+#include "browser/WebViewModel.h"
 #include "foundation/Query.h"
 #include "platform/BrowserView.h"
 #include "platform/Console.h"
-#include "session/WebViewModel.h"
 
 #include <memory>
 #include <string>

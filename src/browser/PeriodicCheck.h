@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/OtherApplications.h"
+#include "machine/OtherApplications.h"
+#include "machine/WindowControl.h"
 #include "platform/MainQueue.h"
 #include "platform/Timers.h"
-#include "session/WindowControl.h"
 
 #include <memory>
 

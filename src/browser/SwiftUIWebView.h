@@ -2,8 +2,8 @@
 
 #include "browser/Coordinator.h"
 #include "browser/PageScripts.h"
+#include "browser/WebViewModel.h"
 #include "platform/BrowserView.h"
-#include "session/WebViewModel.h"
 #include "view/Representable.h"
 #include "view/State.h"
 

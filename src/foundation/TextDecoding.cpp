@@ -2,10 +2,9 @@
 
 #include "foundation/Text.h"
 
-#include <glib.h>
-
 #include <array>
-#include <memory>
+#include <cerrno>
+#include <iconv.h>
 #include <string_view>
 
 namespace orken {
@@ -26,29 +25,61 @@ constexpr std::array<ByteOrderMark, 5> kByteOrderMarks{{{"\xEF\xBB\xBF"sv, "UTF-
                                                         {"\xFF\xFE"sv, "UTF-16LE"},
                                                         {"\xFE\xFF"sv, "UTF-16BE"}}};
 
-bool isKnownCharset(const std::string& charset)
-{
-    // To iconv the empty name is the locale's charset.
-    if (charset.empty()) {
-        return false;
+/// A conversion to UTF-8, closed with its owner.
+class Converter {
+public:
+    explicit Converter(const std::string& charset) : handle_(iconv_open("UTF-8", charset.c_str())) {}
+
+    Converter(const Converter&) = delete;
+    Converter& operator=(const Converter&) = delete;
+
+    ~Converter()
+    {
+        if (isKnown()) {
+            iconv_close(handle_);
+        }
     }
-    const GIConv converter = g_iconv_open("UTF-8", charset.c_str());
+
     // iconv reports an unknown name with the pointer -1.
-    if (converter == reinterpret_cast<GIConv>(-1)) { // NOLINT(performance-no-int-to-ptr)
-        return false;
+    // NOLINTNEXTLINE(performance-no-int-to-ptr)
+    [[nodiscard]] bool isKnown() const { return handle_ != reinterpret_cast<iconv_t>(-1); }
+
+    /// Absent when the bytes are no text of the charset, or end within a character.
+    [[nodiscard]] std::optional<std::string> convert(std::string_view bytes)
+    {
+        std::string rest(bytes);
+        char* in = rest.data();
+        std::size_t inLeft = rest.size();
+        std::string text;
+        while (inLeft > 0) {
+            std::array<char, 4096> chunk{};
+            char* out = chunk.data();
+            std::size_t outLeft = chunk.size();
+            const bool isRefused = iconv(handle_, &in, &inLeft, &out, &outLeft) == static_cast<std::size_t>(-1);
+            if (isRefused && errno != E2BIG) {
+                return std::nullopt;
+            }
+            text.append(chunk.data(), chunk.size() - outLeft);
+        }
+        return text;
     }
-    g_iconv_close(converter);
-    return true;
-}
+
+private:
+    iconv_t handle_;
+};
 
 /// Without the mark, which goes when the converted bytes become a text.
-std::optional<std::string> convert(std::string_view bytes, const char* charset)
+std::optional<std::string> convert(std::string_view bytes, const std::string& charset)
 {
-    gsize length = 0;
-    const std::unique_ptr<char, decltype(&g_free)> text(
-        g_convert(bytes.data(), static_cast<gssize>(bytes.size()), "UTF-8", charset, nullptr, &length, nullptr),
-        g_free);
-    return text ? textFromUtf8({text.get(), length}) : std::nullopt;
+    Converter converter(charset);
+    const auto text = converter.isKnown() ? converter.convert(bytes) : std::nullopt;
+    return text ? textFromUtf8(*text) : std::nullopt;
+}
+
+/// To iconv the empty name is the locale's charset.
+bool isKnownCharset(const std::string& charset)
+{
+    return !charset.empty() && Converter(charset).isKnown();
 }
 
 } // namespace
@@ -65,7 +96,7 @@ std::optional<std::string> decodeText(const Bytes& body, const std::optional<std
         }
     }
     if (charset && isKnownCharset(*charset)) {
-        return convert(bytes, charset->c_str());
+        return convert(bytes, *charset);
     }
     return textFromUtf8(bytes);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "linux/LateEngine.h"
+#include "linux/LazyEngine.h"
+#include "linux/applications/X11Applications.h"
 #include "linux/gtk/DesktopAlerts.h"
 #include "linux/gtk/DesktopAnimationSurface.h"
 #include "linux/gtk/DesktopApplication.h"
@@ -17,7 +18,6 @@
 #include "linux/services/StandardConsole.h"
 #include "linux/services/SystemClock.h"
 #include "linux/services/SystemRandom.h"
-#include "linux/x11/X11Applications.h"
 #include "platform/AlertStack.h"
 #include "platform/KeyMonitors.h"
 #include "platform/NotificationCenter.h"
@@ -68,7 +68,7 @@ public:
     MachineHardware hardware;
     HttpSession urlSession;
     BlockingReader contentsReader;
-    LateEngine engine;
+    LazyEngine engine;
     DesktopWindows windows{notifications, alertGate_, keyMonitors};
     DesktopScreens screens;
     DesktopAnimationSurfaces animationSurfaces;

@@ -1,7 +1,7 @@
 #include "session/ContentView.h"
 
-#include "crypto/ApplicationKey.h"
 #include "foundation/Text.h"
+#include "provider/ApplicationKey.h"
 
 namespace orken {
 

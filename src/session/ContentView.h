@@ -1,10 +1,10 @@
 #pragma once
 
 #include "crypto/DeviceIdentity.h"
+#include "machine/WindowControl.h"
 #include "platform/Console.h"
 #include "platform/MainQueue.h"
 #include "platform/NotificationCenter.h"
-#include "session/WindowControl.h"
 #include "view/View.h"
 
 #include <functional>

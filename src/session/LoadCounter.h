@@ -1,8 +1,8 @@
 #pragma once
 
+#include "browser/WebViewModel.h"
 #include "platform/MainQueue.h"
 #include "platform/Timers.h"
-#include "session/WebViewModel.h"
 #include "view/State.h"
 
 #include <cstdint>

@@ -2,13 +2,13 @@
 
 #include "animation/LottieView.h"
 #include "browser/SwiftUIWebView.h"
+#include "browser/WebViewModel.h"
+#include "machine/WindowControl.h"
 #include "platform/Alerts.h"
 #include "platform/Application.h"
 #include "platform/BundleInfo.h"
 #include "session/LoadCounter.h"
 #include "session/WatermarkMovement.h"
-#include "session/WebViewModel.h"
-#include "session/WindowControl.h"
 #include "view/View.h"
 
 #include <cstdint>

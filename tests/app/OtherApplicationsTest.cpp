@@ -1,7 +1,7 @@
 #include "app/Client.h"
 
-#include "app/OtherApplications.h"
-#include "app/Uninstall.h"
+#include "machine/OtherApplications.h"
+#include "machine/Uninstall.h"
 
 #include <cerrno>
 

@@ -1,4 +1,4 @@
-#include "app/SavedState.h"
+#include "machine/SavedState.h"
 
 #include "foundation/PropertyList.h"
 #include "simulated/SimulatedDesktop.h"

@@ -1,8 +1,8 @@
 #include "crypto/AESCrypto.h"
 
-#include "crypto/ApplicationKey.h"
 #include "foundation/Base64.h"
 #include "foundation/Cipher.h"
+#include "provider/ApplicationKey.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "linux/GObjectPtr.h"
+#include "linux/loop/GObjectPtr.h"
+#include "linux/loop/PrivateContext.h"
 #include "linux/services/BlockingReader.h"
 #include "linux/services/HttpSession.h"
-#include "linux/services/PrivateContext.h"
 
 #include <gmock/gmock.h>
 

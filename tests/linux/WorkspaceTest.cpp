@@ -1,6 +1,6 @@
 #include "linux/services/DesktopWorkspace.h"
 
-#include "linux/GObjectPtr.h"
+#include "linux/loop/GObjectPtr.h"
 
 #include <gio/gio.h>
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "linux/animation/FramePixels.h"
+#include "linux/loop/Deadline.h"
+#include "linux/loop/LoopSource.h"
 #include "linux/renderer/Protocol.h"
-#include "linux/services/Deadline.h"
-#include "linux/services/LoopSource.h"
 
 #include <filesystem>
 #include <functional>

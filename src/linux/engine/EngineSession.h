@@ -1,8 +1,8 @@
 #pragma once
 
-#include "linux/GObjectPtr.h"
-#include "linux/SignalConnection.h"
 #include "linux/engine/EngineModule.h"
+#include "linux/loop/GObjectPtr.h"
+#include "linux/loop/SignalConnection.h"
 
 #include <webkit/webkit.h>
 

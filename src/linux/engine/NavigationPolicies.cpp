@@ -1,7 +1,7 @@
 #include "linux/engine/NavigationPolicies.h"
 
-#include "linux/GObjectPtr.h"
 #include "linux/engine/HeldAnswer.h"
+#include "linux/loop/GObjectPtr.h"
 
 namespace orken::desktop {
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "foundation/PlatformError.h"
-#include "linux/SignalConnection.h"
-#include "linux/services/Deadline.h"
+#include "linux/loop/Deadline.h"
+#include "linux/loop/SignalConnection.h"
 #include "platform/BrowserView.h"
 
 #include <webkit/webkit.h>

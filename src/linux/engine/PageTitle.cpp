@@ -1,8 +1,8 @@
 #include "linux/engine/PageTitle.h"
 
-#include "linux/engine/AsyncReply.h"
 #include "linux/engine/ScriptCalls.h"
 #include "linux/engine/ScriptWorld.h"
+#include "linux/loop/AsyncReply.h"
 
 #include <optional>
 #include <utility>

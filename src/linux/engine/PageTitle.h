@@ -1,6 +1,6 @@
 #pragma once
 
-#include "linux/services/Deadline.h"
+#include "linux/loop/Deadline.h"
 
 #include <webkit/webkit.h>
 

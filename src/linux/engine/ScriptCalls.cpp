@@ -1,6 +1,6 @@
 #include "linux/engine/ScriptCalls.h"
 
-#include "linux/GObjectPtr.h"
+#include "linux/loop/GObjectPtr.h"
 
 namespace orken::desktop {
 

@@ -1,10 +1,10 @@
 #include "linux/engine/WebKitBrowserView.h"
 
 #include "foundation/Url.h"
-#include "linux/engine/AsyncReply.h"
 #include "linux/engine/ScriptCalls.h"
 #include "linux/engine/ScriptWorld.h"
 #include "linux/engine/SilentDefaults.h"
+#include "linux/loop/AsyncReply.h"
 
 #include <utility>
 

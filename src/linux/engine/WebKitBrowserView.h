@@ -1,13 +1,13 @@
 #pragma once
 
-#include "linux/GObjectPtr.h"
-#include "linux/WidgetView.h"
 #include "linux/engine/NavigationPolicies.h"
 #include "linux/engine/PageLoads.h"
 #include "linux/engine/PageTitle.h"
 #include "linux/engine/ProcessRestart.h"
 #include "linux/engine/SpareView.h"
 #include "linux/engine/WebKitConfiguration.h"
+#include "linux/gtk/WidgetView.h"
+#include "linux/loop/GObjectPtr.h"
 #include "platform/BrowserView.h"
 
 #include <webkit/webkit.h>

@@ -1,7 +1,7 @@
 #include "linux/engine/WebKitDataStore.h"
 
-#include "linux/GObjectPtr.h"
-#include "linux/engine/AsyncReply.h"
+#include "linux/loop/AsyncReply.h"
+#include "linux/loop/GObjectPtr.h"
 
 #include <utility>
 

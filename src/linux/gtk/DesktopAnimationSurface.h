@@ -1,11 +1,11 @@
 #pragma once
 
-#include "linux/GObjectPtr.h"
-#include "linux/WidgetView.h"
 #include "linux/animation/RendererProcess.h"
 #include "linux/gtk/AnimationArea.h"
 #include "linux/gtk/FrameTicks.h"
-#include "linux/gtk/SeenWatch.h"
+#include "linux/gtk/VisibilityWatch.h"
+#include "linux/gtk/WidgetView.h"
+#include "linux/loop/GObjectPtr.h"
 #include "platform/AnimationSurface.h"
 
 #include <optional>
@@ -79,7 +79,7 @@ private:
     std::optional<Drawn> shown_;
     std::optional<Drawn> ahead_;
 
-    SeenWatch seen_;
+    VisibilityWatch seen_;
     FrameTicks ticks_;
     SignalConnection scaleChanged_;
 };

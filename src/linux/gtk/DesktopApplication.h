@@ -1,8 +1,8 @@
 #pragma once
 
-#include "linux/GObjectPtr.h"
 #include "linux/gtk/DesktopScreens.h"
 #include "linux/gtk/DesktopWindows.h"
+#include "linux/loop/GObjectPtr.h"
 #include "platform/Application.h"
 #include "platform/TerminationLatch.h"
 

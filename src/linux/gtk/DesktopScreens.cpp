@@ -1,6 +1,6 @@
 #include "linux/gtk/DesktopScreens.h"
 
-#include "linux/GObjectPtr.h"
+#include "linux/loop/GObjectPtr.h"
 
 namespace orken::desktop {
 

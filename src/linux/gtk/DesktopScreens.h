@@ -1,6 +1,6 @@
 #pragma once
 
-#include "linux/SignalConnection.h"
+#include "linux/loop/SignalConnection.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Screens.h"
 #include "platform/Windows.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "linux/SignalConnection.h"
 #include "linux/gtk/GtkViewHost.h"
+#include "linux/loop/SignalConnection.h"
 #include "platform/FullScreenTransition.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Window.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "linux/SignalConnection.h"
+#include "linux/loop/SignalConnection.h"
 #include "platform/KeyMonitors.h"
 
 #include <gtk/gtk.h>

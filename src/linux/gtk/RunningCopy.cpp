@@ -1,6 +1,6 @@
 #include "linux/gtk/RunningCopy.h"
 
-#include "linux/GObjectPtr.h"
+#include "linux/loop/GObjectPtr.h"
 
 #include <gio/gio.h>
 

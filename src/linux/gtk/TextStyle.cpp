@@ -1,6 +1,6 @@
 #include "linux/gtk/TextStyle.h"
 
-#include "linux/GObjectPtr.h"
+#include "linux/loop/GObjectPtr.h"
 
 #include <gtk/gtk.h>
 

@@ -1,11 +1,11 @@
 #include "linux/gtk/ViewWidgets.h"
 
-#include "linux/WidgetView.h"
 #include "linux/gtk/LayerBox.h"
 #include "linux/gtk/StackBox.h"
 #include "linux/gtk/SymbolWidget.h"
 #include "linux/gtk/TextShadow.h"
 #include "linux/gtk/TextStyle.h"
+#include "linux/gtk/WidgetView.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "linux/GObjectPtr.h"
-#include "linux/SignalConnection.h"
+#include "linux/loop/GObjectPtr.h"
+#include "linux/loop/SignalConnection.h"
 #include "view/ViewHost.h"
 
 #include <gtk/gtk.h>

@@ -1,9 +1,9 @@
 #include "linux/services/BlockingReader.h"
 
 #include "foundation/TextDecoding.h"
+#include "linux/loop/LoopSource.h"
+#include "linux/loop/PrivateContext.h"
 #include "linux/services/HttpLoad.h"
-#include "linux/services/LoopSource.h"
-#include "linux/services/PrivateContext.h"
 
 #include <glib-unix.h>
 

@@ -1,6 +1,6 @@
 #include "linux/services/DesktopWorkspace.h"
 
-#include "linux/GObjectPtr.h"
+#include "linux/loop/GObjectPtr.h"
 #include "linux/services/StandardConsole.h"
 
 #include <gio/gio.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "linux/GObjectPtr.h"
+#include "linux/loop/GObjectPtr.h"
 #include "linux/services/HttpOptions.h"
 #include "platform/UrlSession.h"
 

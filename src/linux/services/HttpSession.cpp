@@ -1,8 +1,8 @@
 #include "linux/services/HttpSession.h"
 
+#include "linux/loop/PrivateContext.h"
 #include "linux/services/HttpLoad.h"
 #include "linux/services/MainLoopQueue.h"
-#include "linux/services/PrivateContext.h"
 
 #include <atomic>
 #include <future>

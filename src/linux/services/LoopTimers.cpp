@@ -1,6 +1,6 @@
 #include "linux/services/LoopTimers.h"
 
-#include "linux/services/LoopSource.h"
+#include "linux/loop/LoopSource.h"
 #include "platform/TimerGrid.h"
 
 #include <algorithm>

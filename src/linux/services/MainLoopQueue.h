@@ -1,6 +1,6 @@
 #pragma once
 
-#include "linux/services/LoopSource.h"
+#include "linux/loop/LoopSource.h"
 #include "platform/MainQueue.h"
 
 #include <map>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "linux/GObjectPtr.h"
+#include "linux/loop/GObjectPtr.h"
 
 #include <gio/gio.h>
 

@@ -1,8 +1,8 @@
-#include "linux/x11/X11Applications.h"
+#include "linux/applications/X11Applications.h"
 
+#include "linux/applications/ProcessTree.h"
+#include "linux/applications/X11Windows.h"
 #include "linux/services/StandardConsole.h"
-#include "linux/x11/ProcessTree.h"
-#include "linux/x11/X11Windows.h"
 
 #include <algorithm>
 #include <glib.h>

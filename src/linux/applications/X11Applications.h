@@ -1,7 +1,7 @@
 #pragma once
 
-#include "linux/x11/InstalledPrograms.h"
-#include "linux/x11/X11Connection.h"
+#include "linux/applications/InstalledPrograms.h"
+#include "linux/applications/X11Connection.h"
 #include "platform/RunningApplications.h"
 
 #include <functional>

@@ -1,6 +1,6 @@
-#include "linux/x11/X11Windows.h"
+#include "linux/applications/X11Windows.h"
 
-#include "linux/x11/ProcessTree.h"
+#include "linux/applications/ProcessTree.h"
 
 #include <algorithm>
 #include <span>

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace orken {
+namespace orken::desktop {
 
 /// A window as a window system tells of it.
 struct ClientWindow {
@@ -57,4 +57,4 @@ struct ApplicationGroup {
 [[nodiscard]] std::vector<ApplicationGroup> groupApplications(const std::vector<ClientWindow>& windows,
                                                               const SessionFacts& facts);
 
-} // namespace orken
+} // namespace orken::desktop

@@ -1,4 +1,4 @@
-#include "linux/x11/ProcessTree.h"
+#include "linux/applications/ProcessTree.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,4 +1,4 @@
-#include "app/Uninstall.h"
+#include "machine/Uninstall.h"
 
 namespace orken {
 

@@ -1,4 +1,4 @@
-#include "foundation/Endpoints.h"
+#include "provider/Endpoints.h"
 
 namespace orken {
 

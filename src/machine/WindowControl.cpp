@@ -1,4 +1,4 @@
-#include "session/WindowControl.h"
+#include "machine/WindowControl.h"
 
 namespace orken {
 

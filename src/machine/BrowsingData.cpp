@@ -1,4 +1,4 @@
-#include "app/BrowsingData.h"
+#include "machine/BrowsingData.h"
 
 #include <cerrno>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "linux/SignalConnection.h"
+#include "linux/loop/SignalConnection.h"
 
 #include <gtk/gtk.h>
 
@@ -12,10 +12,10 @@ namespace orken::desktop {
 /// Tells whether a widget can be seen: it is mapped, neither it nor anything around it has opacity 0, and its window is
 /// not minimised. The toolkit itself stops drawing then, but neither its frame ticks nor anybody else. Main thread
 /// only.
-class SeenWatch {
+class VisibilityWatch {
 public:
     /// `changed` is called after each change. It may not end this object.
-    SeenWatch(GtkWidget* widget, std::function<void()> changed);
+    VisibilityWatch(GtkWidget* widget, std::function<void()> changed);
 
     [[nodiscard]] bool isSeen() const { return isSeen_; }
 

@@ -1,4 +1,4 @@
-#include "linux/LateEngine.h"
+#include "linux/LazyEngine.h"
 
 #include "linux/services/InstalledFolders.h"
 
@@ -17,12 +17,12 @@ constexpr const char* kModule = "liborken-engine.so";
 
 } // namespace
 
-LateEngine::~LateEngine()
+LazyEngine::~LazyEngine()
 {
     stop();
 }
 
-EngineModule* LateEngine::load()
+EngineModule* LazyEngine::load()
 {
     if (engine_) {
         return engine_.get();
@@ -39,10 +39,10 @@ EngineModule* LateEngine::load()
     return engine_.get();
 }
 
-void LateEngine::loadWhenIdle()
+void LazyEngine::loadWhenIdle()
 {
     auto loadAndWarmUp = +[](gpointer data) -> gboolean {
-        auto* self = static_cast<LateEngine*>(data);
+        auto* self = static_cast<LazyEngine*>(data);
         self->idle_ = 0;
         if (EngineModule* engine = self->load()) {
             engine->warmUp();
@@ -54,7 +54,7 @@ void LateEngine::loadWhenIdle()
     }
 }
 
-std::shared_ptr<BrowserView> LateEngine::make()
+std::shared_ptr<BrowserView> LazyEngine::make()
 {
     EngineModule* engine = load();
     if (!engine) {
@@ -64,7 +64,7 @@ std::shared_ptr<BrowserView> LateEngine::make()
     return engine->browserViews().make();
 }
 
-void LateEngine::fetchDataRecords(WebsiteDataTypes types,
+void LazyEngine::fetchDataRecords(WebsiteDataTypes types,
                                   std::function<void(std::vector<WebsiteDataRecord>)> completion)
 {
     // Also without a session before: what an earlier client left behind after a crash is cleared too.
@@ -75,7 +75,7 @@ void LateEngine::fetchDataRecords(WebsiteDataTypes types,
     completion({});
 }
 
-void LateEngine::removeData(WebsiteDataTypes types, const std::vector<WebsiteDataRecord>& records,
+void LazyEngine::removeData(WebsiteDataTypes types, const std::vector<WebsiteDataRecord>& records,
                             std::function<void()> completion)
 {
     if (EngineModule* engine = load()) {
@@ -83,7 +83,7 @@ void LateEngine::removeData(WebsiteDataTypes types, const std::vector<WebsiteDat
     }
 }
 
-void LateEngine::stop()
+void LazyEngine::stop()
 {
     if (const unsigned idle = std::exchange(idle_, 0)) {
         g_source_remove(idle);

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace orken {
+namespace orken::desktop {
 
 /// What a program does for the user's session, as far as its window class tells.
 enum class SystemComponent {
@@ -28,4 +28,4 @@ enum class SystemComponent {
 /// The session breaks without it, so it is in no list of running applications.
 [[nodiscard]] bool isSessionCritical(SystemComponent component);
 
-} // namespace orken
+} // namespace orken::desktop

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "linux/GObjectPtr.h"
-#include "platform/ApplicationGroups.h"
+#include "linux/applications/ApplicationGroups.h"
+#include "linux/loop/GObjectPtr.h"
 
 #include <gio/gio.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "linux/x11/X11Connection.h"
-#include "platform/ApplicationGroups.h"
+#include "linux/applications/ApplicationGroups.h"
+#include "linux/applications/X11Connection.h"
 
 #include <optional>
 #include <vector>

@@ -12,11 +12,11 @@ namespace orken::desktop {
 
 /// The web engine's ports in front of a module that is loaded late: linking the engine would keep the start window
 /// from the screen. Whoever needs the engine before the idle moment came loads it then. Main thread only.
-class LateEngine final : public BrowserViews, public WebsiteDataStore {
+class LazyEngine final : public BrowserViews, public WebsiteDataStore {
 public:
-    explicit LateEngine(EngineSettings settings) : settings_(std::move(settings)) {}
+    explicit LazyEngine(EngineSettings settings) : settings_(std::move(settings)) {}
 
-    ~LateEngine() override;
+    ~LazyEngine() override;
 
     /// Loads the engine and warms it up once the main loop has nothing else to do.
     void loadWhenIdle();

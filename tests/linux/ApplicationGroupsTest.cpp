@@ -1,8 +1,8 @@
-#include "platform/ApplicationGroups.h"
+#include "linux/applications/ApplicationGroups.h"
 
 #include <gmock/gmock.h>
 
-namespace orken {
+namespace orken::desktop {
 namespace {
 
 using testing::ElementsAre;
@@ -87,4 +87,4 @@ TEST(ApplicationGroups, whatCarriesTheSessionOrTheClientIsInNoList)
 }
 
 } // namespace
-} // namespace orken
+} // namespace orken::desktop

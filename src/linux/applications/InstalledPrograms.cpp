@@ -1,4 +1,4 @@
-#include "linux/x11/InstalledPrograms.h"
+#include "linux/applications/InstalledPrograms.h"
 
 #include <gio/gdesktopappinfo.h>
 

@@ -1,4 +1,4 @@
-#include "linux/services/LoopSource.h"
+#include "linux/loop/LoopSource.h"
 
 #include <utility>
 

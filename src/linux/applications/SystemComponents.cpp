@@ -1,10 +1,10 @@
-#include "platform/SystemComponents.h"
+#include "linux/applications/SystemComponents.h"
 
 #include <algorithm>
 #include <array>
 #include <utility>
 
-namespace orken {
+namespace orken::desktop {
 
 namespace {
 
@@ -164,4 +164,4 @@ bool isSessionCritical(SystemComponent component)
            component == Component::indispensable;
 }
 
-} // namespace orken
+} // namespace orken::desktop

@@ -1,4 +1,4 @@
-#include "app/OtherApplications.h"
+#include "machine/OtherApplications.h"
 
 #include <algorithm>
 #include <array>

@@ -1,12 +1,12 @@
-#include "platform/ApplicationGroups.h"
+#include "linux/applications/ApplicationGroups.h"
 
-#include "platform/SystemComponents.h"
+#include "linux/applications/SystemComponents.h"
 
 #include <algorithm>
 #include <map>
 #include <tuple>
 
-namespace orken {
+namespace orken::desktop {
 
 namespace {
 
@@ -111,4 +111,4 @@ std::vector<ApplicationGroup> groupApplications(const std::vector<ClientWindow>&
     return applications;
 }
 
-} // namespace orken
+} // namespace orken::desktop

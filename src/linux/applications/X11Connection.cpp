@@ -1,4 +1,4 @@
-#include "linux/x11/X11Connection.h"
+#include "linux/applications/X11Connection.h"
 
 #include <cstring>
 

@@ -1,4 +1,4 @@
-#include "linux/gtk/SeenWatch.h"
+#include "linux/gtk/VisibilityWatch.h"
 
 #include <utility>
 
@@ -20,7 +20,8 @@ bool isMinimised(GdkSurface* surface)
 
 } // namespace
 
-SeenWatch::SeenWatch(GtkWidget* widget, std::function<void()> changed) : widget_(widget), changed_(std::move(changed))
+VisibilityWatch::VisibilityWatch(GtkWidget* widget, std::function<void()> changed)
+    : widget_(widget), changed_(std::move(changed))
 {
     mapping_.push_back(SignalConnection::make<void(GtkWidget*)>(widget, "map", [this](GtkWidget*) { mapped(); }));
     mapping_.push_back(SignalConnection::make<void(GtkWidget*)>(widget, "unmap", [this](GtkWidget*) { unmapped(); }));
@@ -29,7 +30,7 @@ SeenWatch::SeenWatch(GtkWidget* widget, std::function<void()> changed) : widget_
     }
 }
 
-void SeenWatch::mapped()
+void VisibilityWatch::mapped()
 {
     surroundings_.clear();
     const auto watch = [this](gpointer object, const char* signal) {
@@ -45,13 +46,13 @@ void SeenWatch::mapped()
     look();
 }
 
-void SeenWatch::unmapped()
+void VisibilityWatch::unmapped()
 {
     surroundings_.clear();
     look();
 }
 
-void SeenWatch::look()
+void VisibilityWatch::look()
 {
     const bool isSeen = canBeSeen();
     if (std::exchange(isSeen_, isSeen) != isSeen) {
@@ -59,7 +60,7 @@ void SeenWatch::look()
     }
 }
 
-bool SeenWatch::canBeSeen() const
+bool VisibilityWatch::canBeSeen() const
 {
     for (GtkWidget* place = widget_; place; place = gtk_widget_get_parent(place)) {
         if (gtk_widget_get_opacity(place) <= 0) {
