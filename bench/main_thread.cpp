@@ -4,7 +4,6 @@
 
 #include "app/VersionGate.h"
 #include "linux/Desktop.h"
-#include "machine/OtherApplications.h"
 
 #include <algorithm>
 #include <chrono>
@@ -62,8 +61,8 @@ int main(int argumentCount, char** arguments)
     }
     gtk_init();
     orken::desktop::Desktop desktop({.bundleIdentifier = "com.orken.bench", .version = "1.0"});
-    orken::OtherApplications applications(
-        {desktop.runningApplications, desktop.alerts, desktop.application, desktop.console}, "com.orken.bench");
+    const orken::Endpoints endpoints{.bundleIdentifier = "com.orken.bench", .contentHost = "127.0.0.1:9"};
+    orken::MachineServices machine(portsOf(desktop), endpoints);
 
     double first = 0;
     for (int tries = 0; tries < 200 && desktop.runningApplications.all().size() < windows; ++tries) {
@@ -72,17 +71,14 @@ int main(int argumentCount, char** arguments)
     const std::size_t listed = desktop.runningApplications.all().size();
     std::vector<double> rounds;
     for (int round = 0; round < kRounds; ++round) {
-        rounds.push_back(milliseconds([&] { applications.terminateOtherApplications(); }));
+        rounds.push_back(milliseconds([&] { machine.otherApplications.terminateOtherApplications(); }));
     }
     std::sort(rounds.begin(), rounds.end());
 
     orken::desktop::X11Applications fresh("com.orken.bench", [] { return std::string(g_getenv("DISPLAY")); });
     first = milliseconds([&] { (void)fresh.all(); });
 
-    orken::Uninstall uninstall(desktop.files, desktop.alerts, desktop.application, desktop.console);
-    const orken::VersionGate gate({desktop.bundle, desktop.urlSession, desktop.mainQueue, desktop.console,
-                                   desktop.workspace, desktop.application, uninstall},
-                                  "https://127.0.0.1:9/settings/xpp.json");
+    const orken::VersionGate gate = orken::versionGate(portsOf(desktop), endpoints, machine);
     orken::State<std::string> message({}, "");
     orken::State<bool> flag({}, false);
     const double check = milliseconds([&] { gate.checkAppVersion(message, flag); });

@@ -4,10 +4,9 @@
 
 #include "animation/DocumentChecker.h"
 #include "animation/LottieView.h"
-#include "browser/PageScripts.h"
+#include "browser/BrowserServices.h"
 #include "linux/Desktop.h"
 #include "linux/services/InstalledFolders.h"
-#include "machine/OtherApplications.h"
 
 #include <gtk/gtk.h>
 
@@ -75,12 +74,9 @@ public:
 /// Passes over a video page that has been handled, with their answers, lines going to a file.
 std::vector<double> measurePasses(desktop::Desktop& desktop)
 {
-    OtherApplications others({desktop.runningApplications, desktop.alerts, desktop.application, desktop.console},
-                             "com.orken.bench");
-    WindowControl control(desktop.windows, desktop.notifications, desktop.keyMonitors, desktop.console);
-    PeriodicCheck check({desktop.timers, desktop.mainQueue, control, others});
-    PageValues values;
-    PageScripts scripts({desktop.console, desktop.mainQueue, check}, values);
+    const Endpoints endpoints{.bundleIdentifier = "com.orken.bench"};
+    MachineServices machine(portsOf(desktop), endpoints);
+    BrowserServices browser(portsOf(desktop), endpoints, machine);
     const auto page = std::make_shared<SilentPage>();
     const auto model = std::make_shared<WebViewModel>(kVideoPage);
     model->webView = page;
@@ -91,8 +87,8 @@ std::vector<double> measurePasses(desktop::Desktop& desktop)
     std::vector<double> costs;
     for (int i = 0; i < kPasses; ++i) {
         costs.push_back(costOf([&] {
-            scripts.runUpdatePass(*page, model);
-            scripts.handleVideoGeometry(geometry);
+            browser.updatePass.runUpdatePass(*page, model);
+            browser.videoPage.handleVideoGeometry(geometry);
         }));
     }
     return costs;
@@ -178,8 +174,12 @@ std::pair<std::vector<double>, double> measureTicks(desktop::Desktop& desktop, c
 {
     std::vector<double> ticks;
     TimedSurfaces surfaces(desktop.animationSurfaces, ticks);
-    const AnimationServices services{surfaces,      desktop.urlSession, desktop.mainQueue,
-                                     desktop.files, desktop.bundle,     desktop.notifications};
+    const AnimationServices services{.surfaces = surfaces,
+                                     .urlSession = desktop.urlSession,
+                                     .mainQueue = desktop.mainQueue,
+                                     .files = desktop.files,
+                                     .bundle = desktop.bundle,
+                                     .notifications = desktop.notifications};
     const auto state = std::make_shared<LUStateData>(LULoadType::filepath(file), 1.0, LottieLoopMode::loop(),
                                                      std::nullopt, false, LUContentMode::fit);
     Nobody nobody;

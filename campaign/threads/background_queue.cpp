@@ -73,16 +73,26 @@ struct Counts {
 void visit(desktop::Desktop& desktop, const std::string& base, int turns, Counts& counts)
 {
     desktop::HttpSession urlSession;
-    Uninstall uninstall(desktop.files, desktop.alerts, desktop.application, desktop.console);
-    const VersionGate gate({desktop.bundle, urlSession, desktop.mainQueue, desktop.console, desktop.workspace,
-                            desktop.application, uninstall},
+    MachineServices machine(portsOf(desktop), {});
+    const VersionGate gate({.bundle = desktop.bundle,
+                            .urlSession = urlSession,
+                            .mainQueue = desktop.mainQueue,
+                            .console = desktop.console,
+                            .workspace = desktop.workspace,
+                            .application = desktop.application,
+                            .uninstall = machine.uninstall},
                            base + "/settings.json");
     State<std::string> message({}, "");
     State<bool> showsAlert({}, false);
     gate.checkAppVersion(message, showsAlert);
 
-    const DeviceIdentity identity(desktop.hardware, desktop.contentsReader, base + "/echo");
-    LoginParameter parameter({urlSession, desktop.mainQueue, desktop.console, desktop.clock, identity}, base + "/echo");
+    const DeviceIdentity identity = deviceIdentity(portsOf(desktop), {.ipEchoURL = base + "/echo"});
+    LoginParameter parameter({.urlSession = urlSession,
+                              .mainQueue = desktop.mainQueue,
+                              .console = desktop.console,
+                              .clock = desktop.clock,
+                              .identity = identity},
+                             base + "/echo");
     auto delegate = std::make_shared<Delegate>();
     parameter.startLoginParameter(delegate, std::make_shared<Page>(counts.scripts));
 

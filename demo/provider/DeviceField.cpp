@@ -12,7 +12,7 @@ namespace orken::demo {
 namespace {
 
 // The client refuses this key: AES has none of 36 bytes. Should it be cut one day, to whatever length, its beginning
-// deciphers the field.
+// decrypts the field.
 constexpr std::string_view kKey = "5b2e7a41-93cd-4f08-a6e2-1c7d90b3f584";
 constexpr std::array<unsigned char, 16> kVector{};
 
@@ -30,7 +30,7 @@ std::string fromBase64(std::string_view value)
     return result;
 }
 
-std::optional<std::string> deciphered(const EVP_CIPHER* cipher, std::string_view input)
+std::optional<std::string> decrypted(const EVP_CIPHER* cipher, std::string_view input)
 {
     const std::unique_ptr<EVP_CIPHER_CTX, decltype(&EVP_CIPHER_CTX_free)> context(EVP_CIPHER_CTX_new(),
                                                                                   EVP_CIPHER_CTX_free);
@@ -59,7 +59,7 @@ std::string deviceFieldText(std::string_view value)
     }
     const std::string input = fromBase64(value);
     for (const auto* cipher : {EVP_aes_256_cbc(), EVP_aes_192_cbc(), EVP_aes_128_cbc()}) {
-        if (const auto text = deciphered(cipher, input)) {
+        if (const auto text = decrypted(cipher, input)) {
             return *text;
         }
     }

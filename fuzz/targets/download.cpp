@@ -1,9 +1,10 @@
 #include "../Target.h"
 
-#include "browser/PdfDownload.h"
+#include "browser/BrowserServices.h"
 #include "foundation/DataUrl.h"
 #include "foundation/FileName.h"
 #include "simulated/SimulatedDesktop.h"
+#include "simulated/TestEndpoints.h"
 
 // A page's download: a line with the address that names the file, then the document as a data URL.
 
@@ -21,14 +22,15 @@ struct Bed {
                 ScriptDictionary{{"dataURL", dataUrl}, {"mimeType", std::string("application/pdf")}}));
         };
         desktop.alerts.answerNext("Aç");
-        pdf.downloadBlob(*made, {.requestUrl = address}, [this](NavigationPolicy policy) {
+        browser.pdfDownload.downloadBlob(*made, {.requestUrl = address}, [this](NavigationPolicy policy) {
             decisions += policy == NavigationPolicy::cancel ? 1 : 100;
         });
         desktop.loop.run();
     }
 
     simulated::SimulatedDesktop desktop;
-    PdfDownload pdf{{desktop.console, desktop.loop, desktop.files, desktop.alerts, desktop.workspace, desktop.clock}};
+    MachineServices machine{portsOf(desktop), simulated::kEndpoints};
+    BrowserServices browser{portsOf(desktop), simulated::kEndpoints, machine};
     std::shared_ptr<BrowserView> made = desktop.browserViews.make();
     int decisions = 0;
 };

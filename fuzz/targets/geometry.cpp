@@ -1,10 +1,11 @@
 #include "../Target.h"
 
-#include "browser/PageScripts.h"
+#include "browser/BrowserServices.h"
 #include "foundation/Decimal.h"
 #include "foundation/Json.h"
 #include "session/WatermarkMovement.h"
 #include "simulated/SimulatedDesktop.h"
+#include "simulated/TestEndpoints.h"
 
 #include <cmath>
 #include <cstdlib>
@@ -16,17 +17,15 @@ namespace orken::fuzz {
 namespace {
 
 struct Bed {
+    Bed() { values = {.videoXPosition = 1, .videoYPosition = 2, .videoMaxWidth = 3, .videoMaxHeight = 4}; }
+
     simulated::SimulatedDesktop desktop;
-    WindowControl windowControl{desktop.windows, desktop.notifications, desktop.keyMonitors, desktop.console};
-    OtherApplications others{{desktop.runningApplications, desktop.alerts, desktop.application, desktop.console},
-                             "com.orken.test"};
-    PeriodicCheck check{{desktop.loop, desktop.loop, windowControl, others}};
-    PageValues values{.videoXPosition = 1, .videoYPosition = 2, .videoMaxWidth = 3, .videoMaxHeight = 4};
-    PageScripts scripts{{desktop.console, desktop.loop, check}, values};
+    MachineServices machine{portsOf(desktop), simulated::kEndpoints};
+    BrowserServices browser{portsOf(desktop), simulated::kEndpoints, machine};
+    PageValues& values = browser.pageValues;
     State<Point> position{{}, Point{}};
-    std::shared_ptr<WatermarkMovement> movement = std::make_shared<WatermarkMovement>(
-        position, values,
-        WatermarkMovement::Ports{desktop.loop, desktop.loop, desktop.screens, desktop.random, desktop.console});
+    std::shared_ptr<WatermarkMovement> movement =
+        std::make_shared<WatermarkMovement>(position, values, watermarkPorts(portsOf(desktop)));
 };
 
 bool isUntouched(const PageValues& values)
@@ -40,7 +39,7 @@ bool isUntouched(const PageValues& values)
 void run(std::string_view input)
 {
     Bed bed;
-    bed.scripts.handleVideoGeometry(std::optional<ScriptValue>(ScriptText(std::string(input))));
+    bed.browser.videoPage.handleVideoGeometry(std::optional<ScriptValue>(ScriptText(std::string(input))));
     const auto numbers = jsonNumbers(input);
     demand((numbers && numbers.value()) || isUntouched(bed.values), "without numbers nothing changes");
     for (const auto& number : {bed.values.videoXPosition, std::optional(bed.values.videoYPosition),

@@ -1,20 +1,19 @@
 #include "../Target.h"
 
-#include "browser/PageScripts.h"
+#include "browser/BrowserServices.h"
 #include "crypto/AESCrypto.h"
 #include "foundation/Base64.h"
 #include "foundation/Text.h"
+#include "provider/Keys.h"
 #include "simulated/SimulatedDesktop.h"
+#include "simulated/TestEndpoints.h"
 
 // The address of the page on the screen, up to the text over the video. An input that begins with "=" is a text that
-// the provider enciphers; any other is the address itself.
+// the provider encrypts; any other is the address itself.
 
 namespace orken::fuzz {
 
 namespace {
-
-constexpr std::string_view kKey = "a71c04e9b2f84d3ca6e0h5193d27f8c4";
-constexpr std::string_view kVector = "4820613975204863";
 
 struct Bed {
     /// One redraw with the page at this address.
@@ -23,17 +22,14 @@ struct Bed {
         desktop.browserViews.site = {{address, {}}};
         desktop.browserViews.latest->navigate(address);
         desktop.loop.run();
-        scripts.runUpdatePass(*made, model);
+        browser.updatePass.runUpdatePass(*made, model);
         desktop.loop.run();
     }
 
     simulated::SimulatedDesktop desktop;
-    WindowControl windowControl{desktop.windows, desktop.notifications, desktop.keyMonitors, desktop.console};
-    OtherApplications others{{desktop.runningApplications, desktop.alerts, desktop.application, desktop.console},
-                             "com.orken.test"};
-    PeriodicCheck check{{desktop.loop, desktop.loop, windowControl, others}};
-    PageValues values;
-    PageScripts scripts{{desktop.console, desktop.loop, check}, values};
+    MachineServices machine{portsOf(desktop), simulated::kEndpoints};
+    BrowserServices browser{portsOf(desktop), simulated::kEndpoints, machine};
+    PageValues& values = browser.pageValues;
     std::shared_ptr<WebViewModel> model = std::make_shared<WebViewModel>("first");
     std::shared_ptr<BrowserView> made = desktop.browserViews.make();
 };
@@ -57,10 +53,10 @@ void checkShownText(const std::string& text)
     demand(shortenedLine(line, kCharacters + 1) == line, "a short line stays as it is");
 }
 
-void checkEnciphered(std::string_view text)
+void checkEncrypted(std::string_view text)
 {
-    const auto bytes = AESCrypto::crypt(toBytes(text), kKey, kVector, kCCEncrypt);
-    demand(bytes.has_value(), "any text can be enciphered");
+    const auto bytes = AESCrypto::crypt(toBytes(text), kQueryKey, kQueryVector, kCCEncrypt);
+    demand(bytes.has_value(), "any text can be encrypted");
     Bed bed;
     const std::string hash = escaped(encodeBase64(*bytes));
     bed.pass("https://site.example/playlist/1?dnz=" + hash + "&hash=" + hash);
@@ -74,7 +70,7 @@ void checkEnciphered(std::string_view text)
 void run(std::string_view input)
 {
     if (input.starts_with('=')) {
-        checkEnciphered(input.substr(1));
+        checkEncrypted(input.substr(1));
         return;
     }
     Bed bed;

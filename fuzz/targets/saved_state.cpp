@@ -1,8 +1,9 @@
 #include "../Target.h"
 
 #include "foundation/PropertyList.h"
-#include "machine/SavedState.h"
+#include "machine/MachineServices.h"
 #include "simulated/SimulatedDesktop.h"
+#include "simulated/TestEndpoints.h"
 
 #include <limits>
 
@@ -32,7 +33,8 @@ std::int64_t raised(std::int64_t count)
 void run(std::string_view input)
 {
     simulated::SimulatedDesktop desktop;
-    SavedState state(desktop.files, desktop.console, "com.orken.test");
+    MachineServices machine(portsOf(desktop), simulated::kEndpoints);
+    SavedState& state = machine.savedState;
     desktop.files.addFile(kFile, std::string(input));
 
     const Bytes before = toBytes(input);

@@ -5,6 +5,7 @@
 #include "foundation/NumericCompare.h"
 #include "foundation/Text.h"
 #include "simulated/SimulatedDesktop.h"
+#include "simulated/TestEndpoints.h"
 
 // The settings document that the version gate reads.
 
@@ -12,13 +13,12 @@ namespace orken::fuzz {
 
 namespace {
 
-constexpr const char* kAddress = "https://content.example/settings/xpp.json";
 constexpr const char* kCurrent = "2.1";
 
 struct Gate {
     explicit Gate(std::string_view document)
     {
-        desktop.network.routes[kAddress] = {.body = std::string(document)};
+        desktop.network.routes[simulated::kEndpoints.settingsURL()] = {.body = std::string(document)};
         desktop.bundle.values[kBundleShortVersionKey] = kCurrent;
         gate.checkAppVersion(message, isShown);
         desktop.loop.run();
@@ -27,10 +27,8 @@ struct Gate {
     }
 
     simulated::SimulatedDesktop desktop;
-    Uninstall uninstall{desktop.files, desktop.alerts, desktop.application, desktop.console};
-    VersionGate gate{{desktop.bundle, desktop.network, desktop.loop, desktop.console, desktop.workspace,
-                      desktop.application, uninstall},
-                     kAddress};
+    MachineServices machine{portsOf(desktop), simulated::kEndpoints};
+    VersionGate gate = versionGate(portsOf(desktop), simulated::kEndpoints, machine);
     State<std::string> message{{}, ""};
     State<bool> isShown{{}, false};
 };

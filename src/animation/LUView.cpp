@@ -18,6 +18,16 @@ std::optional<AnimationDocument> readDocument(const Files& files, const std::fil
 
 } // namespace
 
+AnimationServices animationServices(const Ports& ports)
+{
+    return {.surfaces = ports.animationSurfaces,
+            .urlSession = ports.urlSession,
+            .mainQueue = ports.mainQueue,
+            .files = ports.files,
+            .bundle = ports.bundle,
+            .notifications = ports.notifications};
+}
+
 LUView::LUView(Size frame, const AnimationServices& services)
     : services_(services), surface_(services.surfaces.make(frame))
 {

@@ -5,6 +5,7 @@
 #include "platform/BundleInfo.h"
 #include "platform/Files.h"
 #include "platform/NotificationCenter.h"
+#include "platform/Ports.h"
 #include "view/Representable.h"
 
 #include <memory>
@@ -20,6 +21,8 @@ struct AnimationServices {
     const BundleInfo& bundle;
     const NotificationCenter& notifications;
 };
+
+[[nodiscard]] AnimationServices animationServices(const Ports& ports);
 
 /// The platform view that hosts the animation view, keeps it as large as itself and starts its play. Held by shared
 /// pointers: a download keeps it alive. Main thread only.

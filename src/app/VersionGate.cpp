@@ -4,6 +4,7 @@
 #include "foundation/NumericCompare.h"
 #include "foundation/Text.h"
 #include "machine/QuitApplication.h"
+#include "provider/Conventions.h"
 
 namespace orken {
 
@@ -54,7 +55,7 @@ void VersionGate::fetchRequiredVersion(std::function<void(std::optional<std::str
             completion(std::nullopt);
             return;
         }
-        const auto macVersion = jsonTextMember(asText(*result.data), "macVersion");
+        const auto macVersion = jsonTextMember(asText(*result.data), kRequiredVersionMember);
         if (!macVersion) {
             console.printLine("JSON parse hatası: " + macVersion.error().localisedDescription());
             completion(std::nullopt);
@@ -77,13 +78,25 @@ AlertDescription VersionGate::updateAlert(const std::string& appVersionMessage, 
     auto download = [ports = ports_, downloadURL] {
         ports.uninstall.removeInstalledApplication();
         ports.workspace.open(downloadURL);
-        ports.application.terminate();
+        quitApplication(ports.application);
     };
     auto quit = [&application = ports_.application] { quitApplication(application); };
     return {.title = "Güncelleme Gerekli",
             .message = appVersionMessage,
             .buttons = {{.title = "Güncellemeyi İndir", .role = ButtonRole::normal, .action = download},
                         {.title = "Kapat", .role = ButtonRole::cancel, .action = quit}}};
+}
+
+VersionGate versionGate(const Ports& ports, const Endpoints& endpoints, MachineServices& machine)
+{
+    return {{.bundle = ports.bundle,
+             .urlSession = ports.urlSession,
+             .mainQueue = ports.mainQueue,
+             .console = ports.console,
+             .workspace = ports.workspace,
+             .application = ports.application,
+             .uninstall = machine.uninstall},
+            endpoints.settingsURL()};
 }
 
 } // namespace orken

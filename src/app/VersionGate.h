@@ -1,6 +1,6 @@
 #pragma once
 
-#include "machine/Uninstall.h"
+#include "machine/MachineServices.h"
 #include "platform/Application.h"
 #include "platform/BundleInfo.h"
 #include "platform/Console.h"
@@ -56,5 +56,8 @@ private:
     Ports ports_;
     std::string settingsURL_;
 };
+
+/// The gate of the provider's content server.
+[[nodiscard]] VersionGate versionGate(const Ports& ports, const Endpoints& endpoints, MachineServices& machine);
 
 } // namespace orken

@@ -2,22 +2,16 @@
 
 #include "app/AppDelegate.h"
 #include "app/VersionGate.h"
-#include "browser/LoginParameter.h"
-#include "browser/PageScripts.h"
-#include "browser/PdfDownload.h"
-#include "browser/PeriodicCheck.h"
-#include "crypto/DeviceIdentity.h"
-#include "machine/OtherApplications.h"
-#include "machine/SavedState.h"
-#include "machine/Uninstall.h"
-#include "machine/WindowControl.h"
+#include "browser/BrowserServices.h"
+#include "machine/MachineServices.h"
 #include "platform/Ports.h"
 #include "provider/Endpoints.h"
+#include "session/SessionScreens.h"
 
 namespace orken {
 
-/// The application: one window group with the start screen, and the delegate that cleans up at the end. It wires the
-/// product together and lives as long as the process. Main thread only.
+/// The application: one window group with the start screen, and the delegate that cleans up at the end. It puts the
+/// rooms of the product together and lives as long as the process. Main thread only.
 class VistroApp {
 public:
     VistroApp(const Ports& ports, Endpoints endpoints);
@@ -32,23 +26,14 @@ public:
 
 private:
     [[nodiscard]] std::unique_ptr<View> makeFirstView();
-    [[nodiscard]] std::unique_ptr<View> makeContentView();
-    [[nodiscard]] std::unique_ptr<View> makeSessionScreen(const std::string& link);
 
     Ports ports_;
     Endpoints endpoints_;
+    MachineServices machine_;
+    BrowserServices browser_;
+    SessionScreens session_;
     AppDelegate appDelegate_;
-    DeviceIdentity identity_;
-    SavedState savedState_;
-    OtherApplications otherApplications_;
-    Uninstall uninstall_;
     VersionGate versionGate_;
-    WindowControl windowControl_;
-    LoginParameter loginParameter_;
-    PdfDownload pdfDownload_;
-    PeriodicCheck periodicCheck_;
-    PageValues pageValues_;
-    PageScripts pageScripts_;
 };
 
 } // namespace orken

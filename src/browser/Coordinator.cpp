@@ -1,6 +1,7 @@
 #include "browser/Coordinator.h"
 
 #include "foundation/Url.h"
+#include "provider/Conventions.h"
 
 namespace orken {
 
@@ -18,7 +19,7 @@ void Coordinator::didFinishNavigation(BrowserView& view)
     if (viewModel_->hasExecuted) {
         return;
     }
-    if (url.find("Login") != std::string::npos) {
+    if (isLoginPage(url)) {
         services_.loginParameter.startLoginParameter(weak_from_this(), view.shared_from_this());
     }
     // Set for any first page: a login page that comes later gets no parameter.

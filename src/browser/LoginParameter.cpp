@@ -4,7 +4,7 @@
 #include "foundation/Dates.h"
 #include "foundation/Text.h"
 #include "foundation/Url.h"
-#include "provider/ApplicationKey.h"
+#include "provider/Keys.h"
 
 namespace orken {
 
@@ -35,7 +35,7 @@ std::string buildDeviceInfoJson(std::string_view serial, std::string_view date, 
 void LoginParameter::startLoginParameter(const std::weak_ptr<const NavigationDelegate>& delegate,
                                          std::shared_ptr<BrowserView> webView)
 {
-    if (!isUrl(kIPEchoURL_)) {
+    if (!isUrl(ipEchoURL_)) {
         return;
     }
     // On the background queue: the delegate is only asked whether it is there, and the browser view goes back to the
@@ -48,7 +48,7 @@ void LoginParameter::startLoginParameter(const std::weak_ptr<const NavigationDel
             }
         });
     };
-    ports_.urlSession.startDataTask(kIPEchoURL_, std::move(answered));
+    ports_.urlSession.startDataTask(ipEchoURL_, std::move(answered));
 }
 
 void LoginParameter::injectLoginParameter(BrowserView& webView, const std::string& value)

@@ -30,7 +30,7 @@ public:
         const DeviceIdentity& identity;
     };
 
-    LoginParameter(const Ports& ports, std::string kIPEchoURL) : ports_(ports), kIPEchoURL_(std::move(kIPEchoURL)) {}
+    LoginParameter(const Ports& ports, std::string ipEchoURL) : ports_(ports), ipEchoURL_(std::move(ipEchoURL)) {}
 
     /// Asks for the public address and returns at once; the field is added when the answer has come, unless `delegate`
     /// has gone by then. Without an answer the form stays as it is. Main thread only.
@@ -44,7 +44,7 @@ private:
     [[nodiscard]] std::optional<std::string> parameterValue(const DataTaskResult& echo) const;
 
     Ports ports_;
-    std::string kIPEchoURL_;
+    std::string ipEchoURL_;
 };
 
 } // namespace orken

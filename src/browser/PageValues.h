@@ -10,7 +10,7 @@ namespace orken {
 struct PageValues {
     std::string receivedAesKey;
     std::string hashValue;
-    /// Shown over the video; absent until the first one has been deciphered.
+    /// Shown over the video; absent until the first one has been decrypted.
     std::optional<std::string> decryptedHashValue;
     std::optional<double> videoXPosition;
     double videoYPosition = 0;

@@ -1,6 +1,7 @@
 #include "browser/SwiftUIWebView.h"
 
 #include "foundation/Url.h"
+#include "provider/Conventions.h"
 
 namespace orken {
 
@@ -37,7 +38,7 @@ std::shared_ptr<BrowserView> SwiftUIWebView::makeNSView(const Context& context)
 
 void SwiftUIWebView::updateNSView(BrowserView& nsView, const Context&)
 {
-    services_.pageScripts.runUpdatePass(nsView, viewModel_);
+    services_.updatePass.runUpdatePass(nsView, viewModel_);
 }
 
 } // namespace orken

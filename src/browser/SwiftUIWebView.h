@@ -1,7 +1,7 @@
 #pragma once
 
 #include "browser/Coordinator.h"
-#include "browser/PageScripts.h"
+#include "browser/UpdatePass.h"
 #include "browser/WebViewModel.h"
 #include "platform/BrowserView.h"
 #include "view/Representable.h"
@@ -11,10 +11,6 @@
 
 namespace orken {
 
-/// Sent with every request of the browser view; the provider's site knows the client by it.
-inline constexpr const char* kUserAgent = "Mozilla/5.0 (Macintosh; Intel Mac OS X 10_15_7) ApleWebKit/405.1.15 (KHTML, "
-                                          "like Gecko) Versions/16.6 Safari/405.1.15";
-
 /// Puts the browser view into the session screen: configures it once, loads the model's link, and runs the page
 /// scripts on every redraw. Main thread only.
 class SwiftUIWebView {
@@ -23,7 +19,7 @@ public:
 
     struct Services {
         Coordinator::Services coordinator;
-        PageScripts& pageScripts;
+        UpdatePass& updatePass;
     };
 
     SwiftUIWebView(std::shared_ptr<WebViewModel> viewModel, State<bool> removedIdentity,

@@ -31,12 +31,11 @@ std::optional<Bytes> AESCrypto::crypt(const Bytes& data, std::string_view key, s
 std::optional<std::string> AESCrypto::encrypt(std::string_view key, std::string_view plainText)
 {
     constexpr std::array<char, kAesBlockSize> kZeros{};
-    Bytes enciphered;
+    Bytes encrypted;
     if (isValidUtf8(key) && isValidUtf8(plainText)) {
-        enciphered =
-            aesCbc(CipherDirection::encipher, key, {kZeros.data(), kZeros.size()}, plainText).value_or(Bytes());
+        encrypted = aesCbc(CipherDirection::encrypt, key, {kZeros.data(), kZeros.size()}, plainText).value_or(Bytes());
     }
-    return encodeBase64(enciphered);
+    return encodeBase64(encrypted);
 }
 
 } // namespace orken

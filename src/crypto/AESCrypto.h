@@ -12,7 +12,7 @@ namespace orken {
 inline constexpr std::uint32_t kCCEncrypt = 0;
 inline constexpr std::uint32_t kCCDecrypt = 1;
 
-/// What passes enciphered between the client and the provider: AES in CBC mode with PKCS#7 padding. Nothing is kept,
+/// What passes encrypted between the client and the provider: AES in CBC mode with PKCS#7 padding. Nothing is kept,
 /// printed or cached; any thread.
 class AESCrypto {
 public:
@@ -23,7 +23,7 @@ public:
     [[nodiscard]] static std::optional<Bytes> crypt(const Bytes& data, std::string_view key, std::string_view iv,
                                                     std::uint32_t operation);
 
-    /// Enciphers under all bytes of `key` with a vector of 16 zero bytes; base64. A text in every case: the empty one
+    /// Encrypts under all bytes of `key` with a vector of 16 zero bytes; base64. A text in every case: the empty one
     /// when the cipher fails, as it does for a key whose length AES does not have.
     [[nodiscard]] static std::optional<std::string> encrypt(std::string_view key, std::string_view plainText);
 };

@@ -2,6 +2,8 @@
 
 #include "platform/ContentsReader.h"
 #include "platform/HardwareRegistry.h"
+#include "platform/Ports.h"
+#include "provider/Endpoints.h"
 
 #include <optional>
 #include <string>
@@ -15,10 +17,12 @@ inline constexpr const char* kUnknownSerialNumber = "Unknown";
 /// empty text is a value, not an absent one.
 class DeviceIdentity {
 public:
-    DeviceIdentity(const HardwareRegistry& registry, ContentsReader& reader, std::string kIPEchoURL)
-        : registry_(registry), reader_(reader), kIPEchoURL_(std::move(kIPEchoURL))
-    {
-    }
+    struct Ports {
+        const HardwareRegistry& hardware;
+        ContentsReader& contentsReader;
+    };
+
+    DeviceIdentity(const Ports& ports, std::string ipEchoURL) : ports_(ports), ipEchoURL_(std::move(ipEchoURL)) {}
 
     /// Trimmed; absent when the machine has none. Any thread.
     [[nodiscard]] std::optional<std::string> platformSerialNumber() const;
@@ -28,9 +32,11 @@ public:
     [[nodiscard]] std::optional<std::string> fetchPublicIPAddress() const;
 
 private:
-    const HardwareRegistry& registry_;
-    ContentsReader& reader_;
-    std::string kIPEchoURL_;
+    Ports ports_;
+    std::string ipEchoURL_;
 };
+
+/// This machine's, as its desktop and the provider's echo tell it.
+[[nodiscard]] DeviceIdentity deviceIdentity(const Ports& ports, const Endpoints& endpoints);
 
 } // namespace orken

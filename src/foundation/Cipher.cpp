@@ -33,7 +33,7 @@ const unsigned char* bytesOf(std::string_view text)
     return reinterpret_cast<const unsigned char*>(text.data());
 }
 
-std::optional<Bytes> run(const EVP_CIPHER* cipher, int enciphers, std::string_view key, std::string_view vector,
+std::optional<Bytes> run(const EVP_CIPHER* cipher, int encrypts, std::string_view key, std::string_view vector,
                          std::string_view input)
 {
     const Context context(EVP_CIPHER_CTX_new(), EVP_CIPHER_CTX_free);
@@ -41,7 +41,7 @@ std::optional<Bytes> run(const EVP_CIPHER* cipher, int enciphers, std::string_vi
     int written = 0;
     int last = 0;
     const bool done =
-        context && EVP_CipherInit_ex(context.get(), cipher, nullptr, bytesOf(key), bytesOf(vector), enciphers) == 1 &&
+        context && EVP_CipherInit_ex(context.get(), cipher, nullptr, bytesOf(key), bytesOf(vector), encrypts) == 1 &&
         EVP_CipherUpdate(context.get(), output.data(), &written, bytesOf(input), static_cast<int>(input.size())) == 1 &&
         EVP_CipherFinal_ex(context.get(), output.data() + written, &last) == 1;
     if (!done) {
@@ -60,12 +60,12 @@ std::optional<Bytes> aesCbc(CipherDirection direction, std::string_view key, std
 {
     constexpr auto kLongest = static_cast<std::size_t>(std::numeric_limits<int>::max()) - kAesBlockSize;
     const EVP_CIPHER* cipher = cipherForKeyLength(key.size());
-    const bool enciphers = direction == CipherDirection::encipher;
-    const bool isDirection = enciphers || direction == CipherDirection::decipher;
+    const bool encrypts = direction == CipherDirection::encrypt;
+    const bool isDirection = encrypts || direction == CipherDirection::decrypt;
     if (!cipher || !isDirection || initialisationVector.size() != kAesBlockSize || input.size() > kLongest) {
         return std::nullopt;
     }
-    return run(cipher, enciphers ? 1 : 0, key, initialisationVector, input);
+    return run(cipher, encrypts ? 1 : 0, key, initialisationVector, input);
 }
 
 } // namespace orken

@@ -68,7 +68,10 @@ public:
     MachineHardware hardware;
     HttpSession urlSession;
     BlockingReader contentsReader;
+    CookieStorage& cookies{urlSession};
     LazyEngine engine;
+    BrowserViews& browserViews{engine};
+    WebsiteDataStore& websiteData{engine};
     DesktopWindows windows{notifications, alertGate_, keyMonitors};
     DesktopScreens screens;
     DesktopAnimationSurfaces animationSurfaces;

@@ -4,10 +4,16 @@
 
 namespace orken {
 
-namespace {
-
-void removeWebsiteData(WebsiteDataStore& store)
+void BrowsingData::clearBrowsingData()
 {
+    ports_.cookies.removeAllCookies();
+    removeWebsiteData();
+    emptyCachesFolder();
+}
+
+void BrowsingData::removeWebsiteData()
+{
+    WebsiteDataStore& store = ports_.websiteData;
     store.fetchDataRecords(kAllWebsiteDataTypes, [&store](const std::vector<WebsiteDataRecord>& records) {
         for (const WebsiteDataRecord& record : records) {
             store.removeData(record.dataTypes, {record}, [] {});
@@ -15,34 +21,24 @@ void removeWebsiteData(WebsiteDataStore& store)
     });
 }
 
-void emptyCachesFolder(Files& files, const std::string& name)
+void BrowsingData::emptyCachesFolder()
 {
-    const auto directories = files.cachesDirectories();
+    const auto directories = ports_.files.cachesDirectories();
     if (directories.empty()) {
         return;
     }
-    const auto folder = directories.front() / name;
-    const auto entries = files.contentsOfDirectory(folder);
+    const auto folder = directories.front() / bundleIdentifier_;
+    const auto entries = ports_.files.contentsOfDirectory(folder);
     if (!entries) {
         return;
     }
     for (const std::string& entry : entries.value()) {
-        const auto removed = files.removeItem(folder / entry);
+        const auto removed = ports_.files.removeItem(folder / entry);
         // The engine's processes still tidy up in there: what has vanished meanwhile is as good as removed.
         if (!removed && removed.error().code != ENOENT) {
             return;
         }
     }
-}
-
-} // namespace
-
-void clearBrowsingData(CookieStorage& cookies, WebsiteDataStore& websiteData, Files& files,
-                       const std::string& kAppBundleIdentifier)
-{
-    cookies.removeAllCookies();
-    removeWebsiteData(websiteData);
-    emptyCachesFolder(files, kAppBundleIdentifier);
 }
 
 } // namespace orken

@@ -1,5 +1,7 @@
 #include "machine/OtherApplications.h"
 
+#include "machine/QuitApplication.h"
+
 #include <algorithm>
 #include <array>
 
@@ -43,7 +45,7 @@ bool OtherApplications::isKept(const RunningApplication& application,
                                std::span<const std::string_view> identifiers) const
 {
     const auto& own = application.bundleIdentifier;
-    const bool isNamed = own && (*own == kAppBundleIdentifier_ ||
+    const bool isNamed = own && (*own == bundleIdentifier_ ||
                                  std::find(identifiers.begin(), identifiers.end(), *own) != identifiers.end());
     return isNamed || ports_.runningApplications.isCurrent(application);
 }
@@ -62,7 +64,7 @@ void OtherApplications::closeOtherApplications()
          .style = AlertStyle::warning,
          .buttons = {"Evet", "Hayır"}});
     if (answer != kAlertFirstButtonReturn) {
-        ports_.application.terminate();
+        quitApplication(ports_.application);
         return;
     }
     for (const RunningApplication& candidate : candidates) {

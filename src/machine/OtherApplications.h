@@ -22,8 +22,8 @@ public:
         Console& console;
     };
 
-    OtherApplications(const Ports& ports, std::string kAppBundleIdentifier)
-        : ports_(ports), kAppBundleIdentifier_(std::move(kAppBundleIdentifier))
+    OtherApplications(const Ports& ports, std::string bundleIdentifier)
+        : ports_(ports), bundleIdentifier_(std::move(bundleIdentifier))
     {
     }
 
@@ -41,7 +41,7 @@ private:
                               std::span<const std::string_view> identifiers) const;
 
     Ports ports_;
-    std::string kAppBundleIdentifier_;
+    std::string bundleIdentifier_;
 };
 
 } // namespace orken

@@ -17,29 +17,30 @@ constexpr std::size_t kLargestFile = 16 * 1024;
 void SavedState::removeSavedStateDirectory()
 {
     const auto folder = directory();
-    if (!files_.fileExists(folder)) {
-        console_.printLine("Saved state dizini mevcut değil.");
+    if (!ports_.files.fileExists(folder)) {
+        ports_.console.printLine("Saved state dizini mevcut değil.");
         return;
     }
-    if (const auto removed = files_.removeItem(folder); !removed) {
-        console_.printLine("Saved state dizini silinirken bir hata oluştu: " + removed.error().localisedDescription());
+    if (const auto removed = ports_.files.removeItem(folder); !removed) {
+        ports_.console.printLine("Saved state dizini silinirken bir hata oluştu: " +
+                                 removed.error().localisedDescription());
         return;
     }
-    console_.printLine("Saved state dizini başarıyla silindi.");
+    ports_.console.printLine("Saved state dizini başarıyla silindi.");
 }
 
 void SavedState::updateRestoreCount()
 {
     const auto file = directory() / "restorecount.plist";
-    if (!files_.fileExists(file)) {
-        console_.printLine("Dosya mevcut değil, varsayılan değerler kullanılacak.");
+    if (!ports_.files.fileExists(file)) {
+        ports_.console.printLine("Dosya mevcut değil, varsayılan değerler kullanılacak.");
         createDefaultRestoreCountFile(file);
         return;
     }
     const auto printReadError = [this](const PlatformError& error) {
-        console_.printLine("Dosya okunurken bir hata oluştu: " + error.localisedDescription());
+        ports_.console.printLine("Dosya okunurken bir hata oluştu: " + error.localisedDescription());
     };
-    const auto bytes = files_.readFile(file, kLargestFile);
+    const auto bytes = ports_.files.readFile(file, kLargestFile);
     if (!bytes) {
         printReadError(bytes.error());
         return;
@@ -54,37 +55,37 @@ void SavedState::updateRestoreCount()
     }
     const auto count = list.value()->integer;
     if (!count) {
-        console_.printLine("restoreCount anahtarı bulunamadı, varsayılan değer kullanılacak.");
+        ports_.console.printLine("restoreCount anahtarı bulunamadı, varsayılan değer kullanılacak.");
         createDefaultRestoreCountFile(file);
         return;
     }
-    console_.printLine("Restore Count değeri: " + std::to_string(*count));
+    ports_.console.printLine("Restore Count değeri: " + std::to_string(*count));
     incrementRestoreCount(*count, file);
 }
 
 std::filesystem::path SavedState::directory() const
 {
-    return files_.homeDirectory() / "Library/Saved Application State" / (kAppBundleIdentifier_ + ".savedState");
+    return ports_.files.homeDirectory() / "Library/Saved Application State" / (bundleIdentifier_ + ".savedState");
 }
 
 void SavedState::createDefaultRestoreCountFile(const std::filesystem::path& file)
 {
     if (const auto created = tryCreateDefaultFile(file); !created) {
-        console_.printLine("Varsayılan dosya oluşturulurken bir hata oluştu: " +
-                           created.error().localisedDescription());
+        ports_.console.printLine("Varsayılan dosya oluşturulurken bir hata oluştu: " +
+                                 created.error().localisedDescription());
         return;
     }
-    console_.printLine("Varsayılan restorecount.plist dosyası oluşturuldu.");
+    ports_.console.printLine("Varsayılan restorecount.plist dosyası oluşturuldu.");
 }
 
 Outcome<void> SavedState::tryCreateDefaultFile(const std::filesystem::path& file)
 {
     const auto folder = file.parent_path();
-    if (!files_.fileExists(folder)) {
-        if (auto created = files_.createDirectory(folder); !created) {
+    if (!ports_.files.fileExists(folder)) {
+        if (auto created = ports_.files.createDirectory(folder); !created) {
             return created;
         }
-        console_.printLine("Dizin oluşturuldu: " + folder.string());
+        ports_.console.printLine("Dizin oluşturuldu: " + folder.string());
     }
     return write(0, file);
 }
@@ -93,23 +94,23 @@ void SavedState::incrementRestoreCount(std::int64_t current, const std::filesyst
 {
     // The greatest value stays: a counter must not keep anybody from a session.
     const std::int64_t next = current == std::numeric_limits<std::int64_t>::max() ? current : current + 1;
-    console_.printLine("Yeni Restore Count değeri: " + std::to_string(next));
+    ports_.console.printLine("Yeni Restore Count değeri: " + std::to_string(next));
     writeRestoreCount(next, file);
 }
 
 void SavedState::writeRestoreCount(std::int64_t value, const std::filesystem::path& file)
 {
     if (const auto written = write(value, file); !written) {
-        console_.printLine("Dosya kaydedilirken bir hata oluştu: " + written.error().localisedDescription());
+        ports_.console.printLine("Dosya kaydedilirken bir hata oluştu: " + written.error().localisedDescription());
         return;
     }
-    console_.printLine("restorecount.plist dosyası güncellendi.");
+    ports_.console.printLine("restorecount.plist dosyası güncellendi.");
 }
 
 Outcome<void> SavedState::write(std::int64_t value, const std::filesystem::path& file)
 {
     const auto bytes = writePropertyList(kRestoreCountKey, value);
-    return bytes ? files_.writeFile(file, bytes.value()) : bytes.error();
+    return bytes ? ports_.files.writeFile(file, bytes.value()) : bytes.error();
 }
 
 } // namespace orken

@@ -13,8 +13,13 @@ namespace orken {
 /// line on the console; nothing is reported to the caller. Main thread only.
 class SavedState {
 public:
-    SavedState(Files& files, Console& console, std::string kAppBundleIdentifier)
-        : files_(files), console_(console), kAppBundleIdentifier_(std::move(kAppBundleIdentifier))
+    struct Ports {
+        Files& files;
+        Console& console;
+    };
+
+    SavedState(const Ports& ports, std::string bundleIdentifier)
+        : ports_(ports), bundleIdentifier_(std::move(bundleIdentifier))
     {
     }
 
@@ -31,9 +36,8 @@ private:
     void writeRestoreCount(std::int64_t value, const std::filesystem::path& file);
     [[nodiscard]] Outcome<void> write(std::int64_t value, const std::filesystem::path& file);
 
-    Files& files_;
-    Console& console_;
-    std::string kAppBundleIdentifier_;
+    Ports ports_;
+    std::string bundleIdentifier_;
 };
 
 } // namespace orken

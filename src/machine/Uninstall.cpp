@@ -1,29 +1,31 @@
 #include "machine/Uninstall.h"
 
+#include "machine/QuitApplication.h"
+
 namespace orken {
 
 void Uninstall::confirmUninstall()
 {
-    const int answer = alerts_.runModal({.messageText = "Uygulamayı silmek istediğinizden emin misiniz?",
-                                         .informativeText = "Bu işlem geri alınamaz",
-                                         .buttons = {"Evet", "Hayır"}});
+    const int answer = ports_.alerts.runModal({.messageText = "Uygulamayı silmek istediğinizden emin misiniz?",
+                                               .informativeText = "Bu işlem geri alınamaz",
+                                               .buttons = {"Evet", "Hayır"}});
     if (answer == kAlertFirstButtonReturn) {
         removeInstalledApplication();
-        application_.terminate();
+        quitApplication(ports_.application);
     }
 }
 
 void Uninstall::removeInstalledApplication()
 {
-    if (!files_.fileExists(kInstalledBundlePath)) {
-        console_.printLine("Uygulama bulunamadı.");
+    if (!ports_.files.fileExists(kInstalledBundlePath)) {
+        ports_.console.printLine("Uygulama bulunamadı.");
         return;
     }
-    if (const auto removed = files_.removeItem(kInstalledBundlePath); !removed) {
-        console_.printLine("Uygulama silinirken hata oluştu: " + removed.error().description());
+    if (const auto removed = ports_.files.removeItem(kInstalledBundlePath); !removed) {
+        ports_.console.printLine("Uygulama silinirken hata oluştu: " + removed.error().description());
         return;
     }
-    console_.printLine("Uygulama başarıyla silindi.");
+    ports_.console.printLine("Uygulama başarıyla silindi.");
 }
 
 } // namespace orken

@@ -13,10 +13,14 @@ inline constexpr const char* kInstalledBundlePath = "/Applications/Orken.app";
 /// Removal of the installed client. Main thread only.
 class Uninstall {
 public:
-    Uninstall(Files& files, Alerts& alerts, Application& application, Console& console)
-        : files_(files), alerts_(alerts), application_(application), console_(console)
-    {
-    }
+    struct Ports {
+        Files& files;
+        Alerts& alerts;
+        Application& application;
+        Console& console;
+    };
+
+    explicit Uninstall(const Ports& ports) : ports_(ports) {}
 
     /// Asks first. After an agreement the application ends, whether or not there was something to remove.
     void confirmUninstall();
@@ -25,10 +29,7 @@ public:
     void removeInstalledApplication();
 
 private:
-    Files& files_;
-    Alerts& alerts_;
-    Application& application_;
-    Console& console_;
+    Ports ports_;
 };
 
 } // namespace orken

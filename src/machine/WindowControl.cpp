@@ -4,7 +4,7 @@ namespace orken {
 
 void WindowControl::enterFullScreen(State<bool> isFullScreen)
 {
-    const auto windows = windows_.all();
+    const auto windows = ports_.windows.all();
     if (windows.empty() || (windows.front()->styleMask() & windowStyle::kFullScreen) != 0) {
         return;
     }
@@ -14,7 +14,7 @@ void WindowControl::enterFullScreen(State<bool> isFullScreen)
 
 void WindowControl::toggleFullScreen()
 {
-    const auto windows = windows_.all();
+    const auto windows = ports_.windows.all();
     if (!windows.empty()) {
         windows.back()->toggleFullScreen();
     }
@@ -22,7 +22,7 @@ void WindowControl::toggleFullScreen()
 
 void WindowControl::closeOtherWindows()
 {
-    const auto windows = windows_.all();
+    const auto windows = ports_.windows.all();
     for (const auto& window : windows) {
         if (window != windows.front() && window->isVisible()) {
             window->close();
@@ -34,14 +34,14 @@ void WindowControl::observeFullScreenChanges(const State<bool>& isFullScreen)
 {
     // The observers stay for good, the screen does not: they must not keep its state alive.
     const WeakState<bool> state = isFullScreen;
-    notifications_.addObserver(NotificationName::windowWillExitFullScreen, [state] { state.set(false); });
-    notifications_.addObserver(NotificationName::windowDidEnterFullScreen, [state] { state.set(true); });
-    console_.printLine("FullScreen observeFullScreenChanges ");
+    ports_.notifications.addObserver(NotificationName::windowWillExitFullScreen, [state] { state.set(false); });
+    ports_.notifications.addObserver(NotificationName::windowDidEnterFullScreen, [state] { state.set(true); });
+    ports_.console.printLine("FullScreen observeFullScreenChanges ");
 }
 
 void WindowControl::installKeyMonitor()
 {
-    keyMonitors_.add([this](const KeyEvent& event) {
+    ports_.keyMonitors.add([this](const KeyEvent& event) {
         if (event.keyCode != kEscapeKeyCode) {
             return KeyHandling::passOn;
         }

@@ -12,10 +12,14 @@ namespace orken {
 /// at the moment of the call. Main thread only.
 class WindowControl {
 public:
-    WindowControl(Windows& windows, NotificationCenter& notifications, KeyMonitors& keyMonitors, Console& console)
-        : windows_(windows), notifications_(notifications), keyMonitors_(keyMonitors), console_(console)
-    {
-    }
+    struct Ports {
+        Windows& windows;
+        NotificationCenter& notifications;
+        KeyMonitors& keyMonitors;
+        Console& console;
+    };
+
+    explicit WindowControl(const Ports& ports) : ports_(ports) {}
 
     /// Brings the first window into full screen unless it is there, and then sets `isFullScreen` at once.
     void enterFullScreen(State<bool> isFullScreen);
@@ -34,10 +38,7 @@ public:
     void installKeyMonitor();
 
 private:
-    Windows& windows_;
-    NotificationCenter& notifications_;
-    KeyMonitors& keyMonitors_;
-    Console& console_;
+    Ports ports_;
 };
 
 } // namespace orken

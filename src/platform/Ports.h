@@ -25,7 +25,8 @@
 
 namespace orken {
 
-/// What a desktop has to bring. A list for the composition root alone: everything else takes the ports it uses.
+/// What a desktop has to bring. The list is for what puts a room's objects together; each object takes the ports that
+/// it uses.
 struct Ports {
     Application& application;
     Windows& windows;
@@ -51,7 +52,7 @@ struct Ports {
     AnimationSurfaces& animationSurfaces;
 };
 
-/// The ports of a desktop whose members have the ports' names.
+/// The ports of a desktop, whose members have the names of this list.
 template <class Desktop>
 [[nodiscard]] Ports portsOf(Desktop& desktop)
 {
@@ -70,12 +71,12 @@ template <class Desktop>
             .runningApplications = desktop.runningApplications,
             .bundle = desktop.bundle,
             .files = desktop.files,
-            .cookies = desktop.urlSession,
-            .websiteData = desktop.engine,
+            .cookies = desktop.cookies,
+            .websiteData = desktop.websiteData,
             .urlSession = desktop.urlSession,
             .contentsReader = desktop.contentsReader,
             .hardware = desktop.hardware,
-            .browserViews = desktop.engine,
+            .browserViews = desktop.browserViews,
             .animationSurfaces = desktop.animationSurfaces};
 }
 

@@ -1,6 +1,17 @@
 #include "provider/Endpoints.h"
 
+#include "provider/Keys.h"
+
 namespace orken {
+
+std::string Endpoints::loginURL(std::string_view serial) const
+{
+    std::string url = "https://" + loginHost + "//accounts/login?param=";
+    url += serial;
+    url += "&xppKey=";
+    url += kApplicationKey;
+    return url;
+}
 
 Endpoints builtEndpoints()
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace orken {
 
@@ -19,6 +20,9 @@ struct Endpoints {
     std::string animationHost;
     /// Answers with the caller's public address as text.
     std::string ipEchoURL;
+
+    /// The first page of a session. The serial number is inserted as it is.
+    [[nodiscard]] std::string loginURL(std::string_view serial) const;
 
     [[nodiscard]] std::string updateImageURL() const { return "https://" + contentHost + "/program/mac/orkenv1.dmg"; }
 

@@ -1,7 +1,6 @@
 #include "session/ContentView.h"
 
 #include "foundation/Text.h"
-#include "provider/ApplicationKey.h"
 
 namespace orken {
 
@@ -32,11 +31,7 @@ Element ContentView::body()
 
 std::string ContentView::makeLoginURL() const
 {
-    std::string url = "https://" + kLoginHost_ + "//accounts/login?param=";
-    url += ports_.identity.platformSerialNumber().value_or(kUnknownSerialNumber);
-    url += "&xppKey=";
-    url += kApplicationKey;
-    return url;
+    return endpoints_.loginURL(ports_.identity.platformSerialNumber().value_or(kUnknownSerialNumber));
 }
 
 void ContentView::fetchAddress()

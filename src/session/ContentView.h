@@ -5,6 +5,7 @@
 #include "platform/Console.h"
 #include "platform/MainQueue.h"
 #include "platform/NotificationCenter.h"
+#include "provider/Endpoints.h"
 #include "view/View.h"
 
 #include <functional>
@@ -27,22 +28,22 @@ public:
         std::function<std::unique_ptr<View>(const std::string& link)> makeSessionScreen;
     };
 
-    ContentView(std::string kLoginHost, Ports ports)
-        : kLoginHost_(std::move(kLoginHost)), ports_(std::move(ports)),
-          ipAddress_(makeState(std::optional<std::string>()))
+    /// `endpoints` outlives the view.
+    ContentView(const Endpoints& endpoints, Ports ports)
+        : endpoints_(endpoints), ports_(std::move(ports)), ipAddress_(makeState(std::optional<std::string>()))
     {
     }
 
     [[nodiscard]] Element body() override;
 
-    /// Reads the serial number anew on each call and inserts it as it is.
+    /// Reads the serial number anew on each call.
     [[nodiscard]] std::string makeLoginURL() const;
 
 private:
     void fetchAddress();
     void sessionScreenAppeared();
 
-    std::string kLoginHost_;
+    const Endpoints& endpoints_;
     Ports ports_;
     State<std::optional<std::string>> ipAddress_;
 };

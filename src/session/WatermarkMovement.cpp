@@ -45,4 +45,13 @@ void WatermarkMovement::updateTextPosition()
     ports_.console.printLine("X Position: " + decimalText(x) + ", Y Position: " + decimalText(y));
 }
 
+WatermarkMovement::Ports watermarkPorts(const Ports& ports)
+{
+    return {.timers = ports.timers,
+            .mainQueue = ports.mainQueue,
+            .screens = ports.screens,
+            .random = ports.random,
+            .console = ports.console};
+}
+
 } // namespace orken

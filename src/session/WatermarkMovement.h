@@ -3,6 +3,7 @@
 #include "browser/PageValues.h"
 #include "platform/Console.h"
 #include "platform/MainQueue.h"
+#include "platform/Ports.h"
 #include "platform/RandomNumbers.h"
 #include "platform/Screens.h"
 #include "platform/Timers.h"
@@ -43,5 +44,7 @@ private:
     /// The main loop keeps it, and it keeps this.
     std::weak_ptr<Timer> timer_;
 };
+
+[[nodiscard]] WatermarkMovement::Ports watermarkPorts(const Ports& ports);
 
 } // namespace orken

@@ -1,6 +1,8 @@
 #include "session/WebView.h"
 
 #include "foundation/Text.h"
+#include "machine/QuitApplication.h"
+#include "provider/Conventions.h"
 
 #include <algorithm>
 
@@ -15,19 +17,14 @@ constexpr const char* kSlowLoadText = "SAYFANIN YÜKLENMESİ\nBEKLENENDEN UZUN S
 constexpr double kAnimationExtent = 300;
 constexpr Shadow kTextShadow{.color = Color::black(), .radius = 1, .x = 1, .y = 1};
 
-bool contains(const std::string& text, const char* part)
-{
-    return text.find(part) != std::string::npos;
-}
-
 } // namespace
 
-WebView::WebView(const std::string& link, Addresses addresses, const Ports& ports)
-    : ports_(ports), addresses_(std::move(addresses)), model_(std::make_shared<WebViewModel>(link)),
+WebView::WebView(const std::string& link, const Endpoints& endpoints, const Ports& ports)
+    : ports_(ports), mainPageURL_(endpoints.mainPageURL), model_(std::make_shared<WebViewModel>(link)),
       position_(makeState(Point{})), second_(makeState(std::int64_t{0})), isFullScreen_(makeState(false)),
-      loadingAnimation_(std::make_shared<LUStateData>(LULoadType::loadedFrom(addresses_.kLoadingAnimationURL), 1.0,
+      loadingAnimation_(std::make_shared<LUStateData>(LULoadType::loadedFrom(endpoints.loadingAnimationURL()), 1.0,
                                                       LottieLoopMode::loop(), std::nullopt, false, LUContentMode::fit)),
-      loadCounter_(std::make_shared<LoadCounter>(model_, second_, ports.watermark.timers, ports.watermark.mainQueue)),
+      loadCounter_(std::make_shared<LoadCounter>(model_, second_, ports.timers, ports.mainQueue)),
       watermark_(std::make_shared<WatermarkMovement>(position_, ports.pageValues, ports.watermark))
 {
     observe(*model_);
@@ -43,8 +40,7 @@ Element WebView::browserLayer()
 {
     // The factory runs once: a redraw must never bring a new browser view.
     auto makeBrowser = [this] {
-        return std::make_unique<SwiftUIWebView>(model_, makeState(false), ports_.browserViews.make(),
-                                                ports_.browserServices);
+        return std::make_unique<SwiftUIWebView>(model_, makeState(false), ports_.browserViews.make(), ports_.browser);
     };
     return Representable<SwiftUIWebView>(makeBrowser).disabled(!model_->didFinishLoading.get()).onAppear([this] {
         setUpWindow();
@@ -103,7 +99,7 @@ Element WebView::slowLoadMessage()
 
 Element WebView::loginExitLayer()
 {
-    const bool isShown = model_->didFinishLoading.get() && contains(model_->link.get(), "Login");
+    const bool isShown = model_->didFinishLoading.get() && isLoginPage(model_->link.get());
     auto atBottomLeading = [this](Size size) {
         // Before the first layout there is no width yet.
         auto label = Text("Çıkış Yap")
@@ -111,7 +107,7 @@ Element WebView::loginExitLayer()
                          .font(Font::largeTitle)
                          .frame({.width = std::max(size.width / 4 - 40, 0.0), .height = 60})
                          .background(Color::gray());
-        auto button = Button(std::move(label), [this] { ports_.application.terminate(); }).padding(20);
+        auto button = Button(std::move(label), [this] { quitApplication(ports_.application); }).padding(20);
         return VStack({Spacer(), HStack({std::move(button), Spacer()})});
     };
     return When(isShown, [&] { return GeometryReader(atBottomLeading); });
@@ -127,11 +123,9 @@ Element WebView::watermarkLayer()
             .padding()
             .background(Color::black(), 10)
             .position(position_.get())
-            .onAppear([this] {
-                ports_.watermark.mainQueue.async([movement = watermark_] { movement->startTextMovement(); });
-            });
+            .onAppear([this] { ports_.mainQueue.async([movement = watermark_] { movement->startTextMovement(); }); });
     };
-    return When(contains(model_->link.get(), "playlist"), text);
+    return When(isVideoPage(model_->link.get()), text);
 }
 
 void WebView::setUpWindow()
@@ -145,7 +139,7 @@ void WebView::setUpWindow()
 void WebView::openMainPage()
 {
     if (model_->webView) {
-        model_->webView->load({.url = addresses_.kMainPageURL});
+        model_->webView->load({.url = mainPageURL_});
     }
 }
 
@@ -156,7 +150,7 @@ void WebView::confirmExit()
                                                .style = AlertStyle::warning,
                                                .buttons = {"Evet", "Hayır"}});
     if (answer == kAlertFirstButtonReturn) {
-        ports_.application.terminate();
+        quitApplication(ports_.application);
     }
 }
 

@@ -7,6 +7,7 @@
 #include "platform/Alerts.h"
 #include "platform/Application.h"
 #include "platform/BundleInfo.h"
+#include "provider/Endpoints.h"
 #include "session/LoadCounter.h"
 #include "session/WatermarkMovement.h"
 #include "view/View.h"
@@ -24,23 +25,19 @@ class WebView final : public View {
 public:
     struct Ports {
         BrowserViews& browserViews;
+        SwiftUIWebView::Services browser;
         WindowControl& windowControl;
-        SwiftUIWebView::Services browserServices;
         Alerts& alerts;
         Application& application;
         const BundleInfo& bundle;
+        Timers& timers;
+        MainQueue& mainQueue;
         const PageValues& pageValues;
         WatermarkMovement::Ports watermark;
         AnimationServices animation;
     };
 
-    /// Where the provider's documents for this screen are.
-    struct Addresses {
-        std::string kMainPageURL;
-        std::string kLoadingAnimationURL;
-    };
-
-    WebView(const std::string& link, Addresses addresses, const Ports& ports);
+    WebView(const std::string& link, const Endpoints& endpoints, const Ports& ports);
 
     [[nodiscard]] Element body() override;
 
@@ -58,7 +55,7 @@ private:
     void openMainPage();
 
     Ports ports_;
-    Addresses addresses_;
+    std::string mainPageURL_;
     std::shared_ptr<WebViewModel> model_;
     /// Centre of the watermark.
     State<Point> position_;

@@ -2,6 +2,7 @@
 
 #include "app/VistroApp.h"
 #include "simulated/SimulatedDesktop.h"
+#include "simulated/TestEndpoints.h"
 
 #include <gmock/gmock.h>
 
@@ -42,35 +43,7 @@ public:
     }
 
     simulated::SimulatedDesktop desktop;
-    VistroApp app{{desktop.application,
-                   desktop.windows,
-                   desktop.notifications,
-                   desktop.keyMonitors,
-                   desktop.loop,
-                   desktop.loop,
-                   desktop.console,
-                   desktop.clock,
-                   desktop.random,
-                   desktop.screens,
-                   desktop.alerts,
-                   desktop.workspace,
-                   desktop.runningApplications,
-                   desktop.bundle,
-                   desktop.files,
-                   desktop.cookies,
-                   desktop.websiteData,
-                   desktop.network,
-                   desktop.network,
-                   desktop.hardware,
-                   desktop.browserViews,
-                   desktop.animationSurfaces},
-                  {.bundleIdentifier = "com.orken.test",
-                   .version = "2.1",
-                   .contentHost = "content.example",
-                   .loginHost = "login.example",
-                   .mainPageURL = "https://login.example/",
-                   .animationHost = "animation.example",
-                   .ipEchoURL = "https://ip.example/"}};
+    VistroApp app{portsOf(desktop), simulated::kEndpoints};
 };
 
 /// The acts of a complete clean-up of that client.

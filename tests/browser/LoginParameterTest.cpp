@@ -9,6 +9,7 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+constexpr const char* kEcho = "https://ip.example/";
 constexpr const char* kLogin = "https://site.example/accounts/Login?ReturnUrl=%2F";
 constexpr const char* kJson =
     R"([{"OsName": "mac", "DiskSerial": "C02ABC123XYZ", "CurrentDate": "2026-11-16T21:03:25.123Z", "Ip": "203.0.113.7"}])";
@@ -52,7 +53,7 @@ TEST(LoginParameter, theFirstLoginPageGetsTheFieldOnce)
 {
     Bed bed;
     bed.go(kLogin);
-    EXPECT_THAT(bed.desktop.journal.starting("GET "), ElementsAre(std::string("GET ") + Bed::kEcho));
+    EXPECT_THAT(bed.desktop.journal.starting("GET "), ElementsAre(std::string("GET ") + kEcho));
     EXPECT_THAT(bed.acts(), ElementsAre(std::string("print json: ") + kJson, scriptWith("")));
     bed.go(kLogin);
     EXPECT_THAT(bed.desktop.journal.starting("GET "), testing::SizeIs(1));
@@ -88,7 +89,7 @@ TEST(LoginParameter, whatIsMissingIsWrittenAsItIsKnown)
     };
     for (const auto& [echo, serial, ends] : cases) {
         Bed bed;
-        bed.desktop.network.routes[Bed::kEcho] = echo;
+        bed.desktop.network.routes[kEcho] = echo;
         bed.desktop.hardware.serial = serial;
         bed.go(kLogin);
         EXPECT_THAT(bed.acts(), ElementsAre(testing::EndsWith(ends), scriptWith("")));
@@ -100,7 +101,7 @@ TEST(LoginParameter, withoutAnAnswerThereIsALineAndNoField)
     Bed bed;
     bed.desktop.network.routes.clear();
     bed.go(kLogin);
-    EXPECT_THAT(bed.acts(), ElementsAre(std::string("print Error fetching IP address: ") + Bed::kEcho + ": refused"));
+    EXPECT_THAT(bed.acts(), ElementsAre(std::string("print Error fetching IP address: ") + kEcho + ": refused"));
 }
 
 TEST(LoginParameter, nothingHappensWhenTheDelegateHasGone)

@@ -22,7 +22,7 @@ std::vector<std::string> actsOfMaking(const std::string& link)
     desktop.browserViews.site = {{kPage, {.title = "page"}}};
     const auto model = std::make_shared<WebViewModel>(link);
     const auto made = desktop.browserViews.make();
-    SwiftUIWebView host(model, State<bool>({}, false), made, bed.services);
+    SwiftUIWebView host(model, State<bool>({}, false), made, bed.services.forView());
     const SwiftUIWebView::Context context{.coordinator = host.makeCoordinator()};
     EXPECT_EQ(host.makeNSView(context), made);
     EXPECT_EQ(model->webView, made);

@@ -1,17 +1,6 @@
 #pragma once
 
-#include "platform/Alerts.h"
-#include "platform/AnimationSurface.h"
-#include "platform/Application.h"
-#include "platform/BrowserView.h"
-#include "platform/ContentsReader.h"
-#include "platform/Files.h"
-#include "platform/MainQueue.h"
-#include "platform/NotificationCenter.h"
-#include "platform/Timers.h"
-#include "platform/UrlSession.h"
-#include "platform/WebsiteDataStore.h"
-#include "platform/Windows.h"
+#include "platform/Ports.h"
 
 #include <gtest/gtest.h>
 
@@ -21,21 +10,6 @@
 #include <string>
 
 namespace orken {
-
-struct ContractPorts {
-    MainQueue& mainQueue;
-    Timers& timers;
-    NotificationCenter& notifications;
-    Windows& windows;
-    Application& application;
-    Alerts& alerts;
-    Files& files;
-    UrlSession& urlSession;
-    ContentsReader& contentsReader;
-    BrowserViews& browserViews;
-    WebsiteDataStore& websiteData;
-    AnimationSurfaces& animationSurfaces;
-};
 
 /// One desktop under the tests that every desktop has to pass: its ports, and what only its outside can do.
 class ContractDesktop {
@@ -54,7 +28,7 @@ public:
     /// An http address at which nobody listens.
     [[nodiscard]] virtual std::string refusedAddress() = 0;
 
-    [[nodiscard]] virtual ContractPorts ports() = 0;
+    [[nodiscard]] virtual Ports ports() = 0;
 };
 
 /// Each test of the suite gets a desktop of its own. An executable with the suite names its maker:
@@ -102,7 +76,7 @@ protected:
     int appeared = 0;
     Delegate delegate;
     std::unique_ptr<ContractDesktop> desktop = GetParam()();
-    ContractPorts ports = desktop->ports();
+    Ports ports = desktop->ports();
 };
 
 } // namespace orken

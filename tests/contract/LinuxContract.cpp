@@ -94,12 +94,7 @@ public:
         return "http://127.0.0.1:" + std::to_string(port) + "/";
     }
 
-    [[nodiscard]] ContractPorts ports() override
-    {
-        return {desktop_.mainQueue,      desktop_.timers, desktop_.notifications, desktop_.windows,
-                desktop_.application,    desktop_.alerts, desktop_.files,         desktop_.urlSession,
-                desktop_.contentsReader, desktop_.engine, desktop_.engine,        desktop_.animationSurfaces};
-    }
+    [[nodiscard]] Ports ports() override { return portsOf(desktop_); }
 
 private:
     Desktop desktop_{{.bundleIdentifier = "com.orken.contract", .version = "1.0"}};

@@ -32,12 +32,7 @@ public:
 
     [[nodiscard]] std::string refusedAddress() override { return "http://refused.example/"; }
 
-    [[nodiscard]] ContractPorts ports() override
-    {
-        return {desktop_.loop,        desktop_.loop,         desktop_.notifications, desktop_.windows,
-                desktop_.application, desktop_.alerts,       desktop_.files,         desktop_.network,
-                desktop_.network,     desktop_.browserViews, desktop_.websiteData,   desktop_.animationSurfaces};
-    }
+    [[nodiscard]] Ports ports() override { return portsOf(desktop_); }
 
 private:
     SimulatedDesktop desktop_;

@@ -2,7 +2,7 @@
 
 #include "foundation/Base64.h"
 #include "foundation/Cipher.h"
-#include "provider/ApplicationKey.h"
+#include "provider/Keys.h"
 
 #include <gtest/gtest.h>
 
@@ -33,18 +33,18 @@ TEST(Cipher, givesThePublishedCbcVectorsForEachKeyLength)
         {"603deb1015ca71be2b73aef0857d77811f352c073b6108d72d9810a30914dff4",
          "f58c4c04d6e5f1ba779eabfb5f7bfbd69cfc4e967edb808d679f777bc6702c7d"},
     };
-    for (const auto& [key, enciphered] : cases) {
-        const auto result = aesCbc(CipherDirection::encipher, fromHex(key), iv, plain);
+    for (const auto& [key, encrypted] : cases) {
+        const auto result = aesCbc(CipherDirection::encrypt, fromHex(key), iv, plain);
         ASSERT_TRUE(result);
         EXPECT_EQ(result->size(), plain.size() + kAesBlockSize) << "a whole block of padding follows whole blocks";
-        EXPECT_EQ(asText(*result).substr(0, plain.size()), fromHex(enciphered));
-        const auto back = aesCbc(CipherDirection::decipher, fromHex(key), iv, asText(*result));
+        EXPECT_EQ(asText(*result).substr(0, plain.size()), fromHex(encrypted));
+        const auto back = aesCbc(CipherDirection::decrypt, fromHex(key), iv, asText(*result));
         ASSERT_TRUE(back);
         EXPECT_EQ(asText(*back), plain);
     }
 }
 
-TEST(AESCrypto, readsWhatTheProviderEnciphers)
+TEST(AESCrypto, readsWhatTheProviderEncrypts)
 {
     const std::pair<std::string_view, std::string_view> cases[] = {
         {"FkEtZq6V+czVvsK2Fp//PA==", ""},

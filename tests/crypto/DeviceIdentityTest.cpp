@@ -1,6 +1,7 @@
 #include "crypto/DeviceIdentity.h"
 
 #include "simulated/SimulatedDesktop.h"
+#include "simulated/TestEndpoints.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +12,7 @@ constexpr const char* kEcho = "https://ip.example/";
 
 struct Bed {
     simulated::SimulatedDesktop desktop;
-    DeviceIdentity identity{desktop.hardware, desktop.network, kEcho};
+    DeviceIdentity identity = deviceIdentity(portsOf(desktop), simulated::kEndpoints);
 };
 
 TEST(DeviceIdentity, theSerialNumberIsTrimmedAndReadAnew)

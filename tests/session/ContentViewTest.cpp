@@ -1,6 +1,8 @@
 #include "session/ContentView.h"
 
+#include "machine/MachineServices.h"
 #include "simulated/SimulatedDesktop.h"
+#include "simulated/TestEndpoints.h"
 
 #include <gmock/gmock.h>
 
@@ -33,11 +35,16 @@ struct Bed {
         window->setTitle("ORKEN");
         window->makeKeyAndOrderFront();
         window->setContentView(std::make_unique<ContentView>(
-            "login.example", ContentView::Ports{identity, desktop.console, desktop.loop, desktop.notifications, control,
-                                                [this](const std::string& address) -> std::unique_ptr<View> {
-                                                    whenScreenIsMade();
-                                                    return std::make_unique<SessionStub>(address);
-                                                }}));
+            simulated::kEndpoints,
+            ContentView::Ports{.identity = identity,
+                               .console = desktop.console,
+                               .mainQueue = desktop.mainQueue,
+                               .notifications = desktop.notifications,
+                               .windowControl = machine.windowControl,
+                               .makeSessionScreen = [this](const std::string& address) -> std::unique_ptr<View> {
+                                   whenScreenIsMade();
+                                   return std::make_unique<SessionStub>(address);
+                               }}));
         (void)desktop.journal.take();
     }
 
@@ -46,8 +53,8 @@ struct Bed {
     std::function<void()> whenScreenIsMade = [] {};
     // The session window is the last one here, so that its toggles can be seen.
     simulated::SimulatedDesktop desktop{{.permanentPanel = false}};
-    DeviceIdentity identity{desktop.hardware, desktop.network, kEcho};
-    WindowControl control{desktop.windows, desktop.notifications, desktop.keyMonitors, desktop.console};
+    DeviceIdentity identity = deviceIdentity(portsOf(desktop), simulated::kEndpoints);
+    MachineServices machine{portsOf(desktop), simulated::kEndpoints};
     std::shared_ptr<Window> window = desktop.windows.makeWindow({.width = 640, .height = 480}, 15);
 };
 

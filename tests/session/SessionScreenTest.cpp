@@ -1,6 +1,5 @@
-#include "session/WebView.h"
-
 #include "browser/Bed.h"
+#include "session/SessionScreens.h"
 
 #include <gmock/gmock.h>
 
@@ -14,7 +13,6 @@ constexpr const char* kLogin = "https://site.example/accounts/Login";
 constexpr const char* kVideo = "https://site.example/playlist/1?hash=B6xUEGCyo/eXAqNDLYnlZw==";
 constexpr const char* kLoading = "Yükleniyor...";
 constexpr const char* kMainPageButton = "ANASAYFAYI AÇ";
-constexpr const char* kAnimation = "https://animation.example/a.json";
 constexpr const char* kCaption = "Uygulama sürümü 2.1";
 
 struct Bed : BrowserBed {
@@ -23,18 +21,7 @@ struct Bed : BrowserBed {
         desktop.bundle.values[kBundleShortVersionKey] = version;
         desktop.browserViews.site = {{link, {.title = "page", .loadTime = loadTime}}, {"https://site.example/", {}}};
         window->makeKeyAndOrderFront();
-        window->setContentView(std::make_unique<WebView>(
-            link, WebView::Addresses{.kMainPageURL = "https://site.example/", .kLoadingAnimationURL = kAnimation},
-            WebView::Ports{desktop.browserViews,
-                           windowControl,
-                           services,
-                           desktop.alerts,
-                           desktop.application,
-                           desktop.bundle,
-                           values,
-                           {desktop.loop, desktop.loop, desktop.screens, desktop.random, desktop.console},
-                           {desktop.animationSurfaces, desktop.network, desktop.loop, desktop.files, desktop.bundle,
-                            desktop.notifications}}));
+        window->setContentView(screens.makeSessionScreen(link));
         desktop.loop.run();
     }
 
@@ -50,6 +37,7 @@ struct Bed : BrowserBed {
         return lines;
     }
 
+    SessionScreens screens{portsOf(desktop), simulated::kEndpoints, machine, services};
     std::shared_ptr<Window> window = desktop.windows.makeWindow({.width = 1920, .height = 1080}, 15);
 };
 
@@ -92,7 +80,7 @@ TEST(SessionScreen, theExitButtonAsksAndTheLoginPagesOwnDoesNot)
     EXPECT_TRUE(Bed(kLogin, Seconds{5}, 2.1).shows("Uygulama sürümü alınamadı"));
 }
 
-TEST(SessionScreen, theWatermarkShowsTheDecipheredTextAndMovesEveryFiveSeconds)
+TEST(SessionScreen, theWatermarkShowsTheDecryptedTextAndMovesEveryFiveSeconds)
 {
     Bed bed(kVideo);
     EXPECT_TRUE(bed.shows("Öğrenci 4711"));
@@ -110,8 +98,8 @@ TEST(SessionScreen, theWatermarkShowsTheDecipheredTextAndMovesEveryFiveSeconds)
     bed.desktop.random.part = 1;
     for (const auto& [screen, video, lines] : cases) {
         bed.desktop.screens.frame = screen;
-        bed.values.videoMaxWidth = video ? std::optional(video->width) : std::nullopt;
-        bed.values.videoMaxHeight = video ? std::optional(video->height) : std::nullopt;
+        bed.services.pageValues.videoMaxWidth = video ? std::optional(video->width) : std::nullopt;
+        bed.services.pageValues.videoMaxHeight = video ? std::optional(video->height) : std::nullopt;
         EXPECT_EQ(bed.linesFor(Seconds{5}), lines) << screen.width;
     }
     bed.desktop.screens.frame.reset();

@@ -25,6 +25,8 @@ public:
 
     Journal journal;
     MainLoop loop;
+    MainQueue& mainQueue{loop};
+    Timers& timers{loop};
     NotificationCenter notifications;
     KeyMonitors keyMonitors;
     SimulatedWindows windows;
@@ -41,6 +43,8 @@ public:
     SimulatedCookies cookies{journal};
     SimulatedFiles files{journal};
     SimulatedNetwork network{loop, journal};
+    UrlSession& urlSession{network};
+    ContentsReader& contentsReader{network};
     SimulatedWebsiteData websiteData{loop, journal};
     SimulatedBrowserViews browserViews{loop, journal};
     SimulatedAnimationSurfaces animationSurfaces{loop};

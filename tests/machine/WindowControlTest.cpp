@@ -1,8 +1,4 @@
-#include "machine/WindowControl.h"
-
-#include "simulated/SimulatedDesktop.h"
-
-#include <gmock/gmock.h>
+#include "machine/Bed.h"
 
 namespace orken {
 namespace {
@@ -12,7 +8,7 @@ using testing::IsEmpty;
 
 constexpr WindowStyleMask kOrdinary = 15;
 
-struct Bed {
+struct Bed : MachineBed {
     std::shared_ptr<Window> window(const std::string& title, bool shown = true)
     {
         auto made = desktop.windows.makeWindow({.width = 10, .height = 10}, kOrdinary);
@@ -24,8 +20,7 @@ struct Bed {
         return made;
     }
 
-    simulated::SimulatedDesktop desktop{{.permanentPanel = false}};
-    WindowControl control{desktop.windows, desktop.notifications, desktop.keyMonitors, desktop.console};
+    WindowControl& control = machine.windowControl;
     State<bool> isFullScreen{{}, false};
 };
 

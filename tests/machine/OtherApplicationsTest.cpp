@@ -1,9 +1,4 @@
-#include "app/Client.h"
-
-#include "machine/OtherApplications.h"
-#include "machine/Uninstall.h"
-
-#include <cerrno>
+#include "machine/Bed.h"
 
 namespace orken {
 namespace {
@@ -15,7 +10,7 @@ const std::vector<std::string> kSystem{"com.apple.finder",         "com.apple.do
                                        "com.apple.systemuiserver", "com.apple.WindowServer", "com.apple.loginwindow",
                                        "com.apple.wallpaper.agent"};
 
-struct Bed {
+struct Bed : MachineBed {
     std::vector<std::string> close(const std::string& answer)
     {
         if (!answer.empty()) {
@@ -25,9 +20,7 @@ struct Bed {
         return desktop.journal.take();
     }
 
-    simulated::SimulatedDesktop desktop;
-    OtherApplications others{{desktop.runningApplications, desktop.alerts, desktop.application, desktop.console},
-                             "com.orken.test"};
+    OtherApplications& others = machine.otherApplications;
 };
 
 std::string alertAbout(const std::string& list)
@@ -87,66 +80,6 @@ TEST(OtherApplications, eachRoutineKeepsItsOwnSystemComponents)
     bed.desktop.runningApplications.add(std::nullopt);
     bed.others.terminateOtherApplications();
     EXPECT_THAT(bed.desktop.journal.take(), ElementsAre("quit A", "quit ?")) << "to the letter; without an alert";
-}
-
-TEST(OtherApplications, areAskedBetweenTheStartWindowAndTheSession)
-{
-    for (const char* answer : {"Evet", "Hayır"}) {
-        Client client;
-        client.desktop.runningApplications.add("A");
-        client.start();
-        client.desktop.alerts.answerNext(answer);
-        (void)client.desktop.journal.take();
-        client.desktop.press("Uygulamayı Aç");
-        auto acts = client.desktop.journal.take();
-        std::erase_if(acts, [](const std::string& act) {
-            return !act.starts_with("quit") && !act.starts_with("make w") && act != "terminated";
-        });
-        EXPECT_EQ(acts, answer == std::string("Evet")
-                            ? (std::vector<std::string>{"quit A", "make window 640x480 style 15"})
-                            : std::vector<std::string>{"terminated"});
-    }
-}
-
-TEST(Uninstall, removesTheInstalledBundleAloneAndEndsTheClientInAnyCase)
-{
-    const std::tuple<const char*, int, std::vector<std::string>> cases[] = {
-        {"/Applications/Orken.app/Contents/x",
-         0,
-         {"remove /Applications/Orken.app/Contents/x", "remove /Applications/Orken.app/Contents",
-          "remove /Applications/Orken.app", "print Uygulama başarıyla silindi."}},
-        {"/Applications/Orken.app/Contents/x",
-         EACCES,
-         {"print Uygulama silinirken hata oluştu: Error Domain=posix Code=13 \"/Applications/Orken.app: error 13\""}},
-        {"/opt/Orken.app/Contents/x", 0, {"print Uygulama bulunamadı."}},
-    };
-    for (const auto& [file, code, lines] : cases) {
-        Client client;
-        client.desktop.files.addFile(file);
-        if (code != 0) {
-            client.desktop.files.failingRemovals["/Applications/Orken.app"] = code;
-        }
-        client.start();
-        (void)client.desktop.journal.take();
-        client.desktop.alerts.answerNext("Evet");
-        client.desktop.press("Uygulamayı Sil");
-        auto expected = lines;
-        expected.insert(expected.begin(),
-                        "alert Uygulamayı silmek istediğinizden emin misiniz?: Bu işlem geri alınamaz");
-        expected.insert(expected.end(), kCleanUp.begin(), kCleanUp.end());
-        EXPECT_EQ(client.desktop.journal.acts(), expected);
-    }
-}
-
-TEST(Uninstall, aRefusalLeavesEverythingAsItIs)
-{
-    Client client;
-    client.start();
-    client.desktop.alerts.answerNext("Hayır");
-    (void)client.desktop.journal.take();
-    client.desktop.press("Uygulamayı Sil");
-    EXPECT_EQ(client.desktop.journal.acts().size(), 1U) << "the alert";
-    EXPECT_TRUE(client.desktop.showing("Uygulamayı Aç"));
 }
 
 } // namespace

@@ -23,7 +23,7 @@ struct Bed : BrowserBed {
         view->navigate(url);
         desktop.loop.run();
         (void)desktop.journal.take();
-        pageScripts.runUpdatePass(*view, model);
+        services.updatePass.runUpdatePass(*view, model);
         return acts();
     }
 
@@ -50,7 +50,7 @@ std::vector<std::string> passOver(const std::string& url, const std::vector<std:
     return acts;
 }
 
-TEST(PageScripts, readWhatThePagesAddressHolds)
+TEST(AddressReader, readsWhatThePagesAddressHolds)
 {
     const std::string hash = "B6xUEGCyo%2FeXAqNDLYnlZw%3D%3D";
     const std::string shown = "B6xUEGCyo/eXAqNDLYnlZw==";
@@ -80,31 +80,31 @@ TEST(PageScripts, readWhatThePagesAddressHolds)
     Bed large;
     EXPECT_THAT(large.pass("https://h/" + megabyte + "?dnz=" + megabyte + "&hash=" + megabyte),
                 testing::Contains(kFailed));
-    EXPECT_EQ(large.values.decryptedHashValue, std::nullopt);
+    EXPECT_EQ(large.services.pageValues.decryptedHashValue, std::nullopt);
     for (const auto& [url, lines, text] : cases) {
         Bed bed;
         bed.desktop.runningApplications.add("other");
         EXPECT_THAT(bed.pass(url), ElementsAreArray(passOver(url, lines))) << url;
-        EXPECT_EQ(bed.values.decryptedHashValue, text) << url;
+        EXPECT_EQ(bed.services.pageValues.decryptedHashValue, text) << url;
     }
 }
 
-TEST(PageScripts, aViewWithoutAnAddressStartsNothing)
+TEST(UpdatePass, aViewWithoutAnAddressStartsNothing)
 {
     Bed bed;
     bed.desktop.runningApplications.add("other");
     (void)bed.desktop.journal.take();
-    bed.pageScripts.runUpdatePass(*bed.view, bed.model);
+    bed.services.updatePass.runUpdatePass(*bed.view, bed.model);
     EXPECT_THAT(bed.acts(), ElementsAre("guard"));
     bed.desktop.loop.advance(Seconds{60});
     EXPECT_THAT(bed.desktop.journal.take(), IsEmpty());
 }
 
-TEST(PageScripts, aCoverIsRemovedOncePerVideoAndOnlyWithATextToShow)
+TEST(VideoPage, aCoverIsRemovedOncePerVideoAndOnlyWithATextToShow)
 {
     Bed bed;
     auto acts = bed.pass(kOther);
-    EXPECT_EQ(std::count(acts.begin(), acts.end(), "geometry"), 0) << "nothing has been deciphered yet";
+    EXPECT_EQ(std::count(acts.begin(), acts.end(), "geometry"), 0) << "nothing has been decrypted yet";
 
     acts = bed.pass(kVideo);
     EXPECT_THAT(std::vector(acts.end() - 2, acts.end()), ElementsAre("geometry", "print That's working"));
@@ -121,7 +121,7 @@ TEST(PageScripts, aCoverIsRemovedOncePerVideoAndOnlyWithATextToShow)
     EXPECT_FALSE(bed.model->removedIdentity);
 }
 
-TEST(PageScripts, geometryIsTakenFromAnObjectOfNumbersAlone)
+TEST(VideoPage, geometryIsTakenFromAnObjectOfNumbersAlone)
 {
     const auto text = [](const std::string& json) {
         return ScriptResult(std::optional<ScriptValue>(ScriptText(json)));
@@ -146,18 +146,18 @@ TEST(PageScripts, geometryIsTakenFromAnObjectOfNumbersAlone)
     for (const auto& [result, lines] : cases) {
         Bed bed;
         (void)bed.desktop.journal.take();
-        bed.pageScripts.handleVideoGeometry(result);
+        bed.services.videoPage.handleVideoGeometry(result);
         EXPECT_EQ(bed.desktop.journal.take(), lines);
     }
     for (const char* bad : {"", "5", "null", "{", R"({"maxWidth":1e400})"}) {
         Bed bed;
         (void)bed.desktop.journal.take();
-        bed.pageScripts.handleVideoGeometry(text(bad));
+        bed.services.videoPage.handleVideoGeometry(text(bad));
         EXPECT_THAT(bed.desktop.journal.take(), ElementsAre(testing::StartsWith("print JSON Parsing Error: "))) << bad;
     }
 }
 
-TEST(PageScripts, theScriptsAreTheProvidersToTheLetter)
+TEST(UpdatePass, theScriptsAreTheProvidersToTheLetter)
 {
     Bed bed;
     (void)bed.pass("https://h/course?hash=B6xUEGCyo/eXAqNDLYnlZw==");
@@ -165,7 +165,7 @@ TEST(PageScripts, theScriptsAreTheProvidersToTheLetter)
     bed.desktop.browserViews.site = {{kOther, {}}};
     bed.desktop.loop.run();
     (void)bed.desktop.journal.take();
-    bed.pageScripts.runUpdatePass(*bed.view, bed.model);
+    bed.services.updatePass.runUpdatePass(*bed.view, bed.model);
     bed.desktop.loop.run();
     const auto scripts = bed.desktop.journal.starting("script\n");
     ASSERT_EQ(scripts.size(), 3U);

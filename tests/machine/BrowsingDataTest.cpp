@@ -1,8 +1,4 @@
-#include "machine/BrowsingData.h"
-
-#include "simulated/SimulatedDesktop.h"
-
-#include <gmock/gmock.h>
+#include "machine/Bed.h"
 
 #include <cerrno>
 
@@ -13,14 +9,12 @@ using testing::ElementsAre;
 
 const std::filesystem::path kFolder = "/home/student/.cache/com.orken.test";
 
-struct Bed {
+struct Bed : MachineBed {
     std::vector<std::string> clear()
     {
-        clearBrowsingData(desktop.cookies, desktop.websiteData, desktop.files, "com.orken.test");
+        machine.browsingData.clearBrowsingData();
         return desktop.journal.take();
     }
-
-    simulated::SimulatedDesktop desktop;
 };
 
 TEST(BrowsingData, emptiesTheCachesFolderAndKeepsTheFolderItself)

@@ -1,9 +1,5 @@
-#include "machine/SavedState.h"
-
 #include "foundation/PropertyList.h"
-#include "simulated/SimulatedDesktop.h"
-
-#include <gmock/gmock.h>
+#include "machine/Bed.h"
 
 #include <cerrno>
 
@@ -15,7 +11,7 @@ using testing::ElementsAre;
 const std::string kFolder = "/home/student/Library/Saved Application State/com.orken.test.savedState";
 const std::string kFile = kFolder + "/restorecount.plist";
 
-struct Bed {
+struct Bed : MachineBed {
     std::vector<std::string> update()
     {
         (void)desktop.journal.take();
@@ -28,8 +24,7 @@ struct Bed {
         return readPropertyList(desktop.files.contents.at(kFile), "restoreCount").value()->integer;
     }
 
-    simulated::SimulatedDesktop desktop;
-    SavedState state{desktop.files, desktop.console, "com.orken.test"};
+    SavedState& state = machine.savedState;
 };
 
 std::string list(const std::string& content)

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "machine/MachineServices.h"
+#include "simulated/SimulatedDesktop.h"
+#include "simulated/TestEndpoints.h"
+
+#include <gmock/gmock.h>
+
+namespace orken {
+
+struct MachineBed {
+    simulated::SimulatedDesktop desktop{{.permanentPanel = false}};
+    MachineServices machine{portsOf(desktop), simulated::kEndpoints};
+};
+
+} // namespace orken
