@@ -60,7 +60,7 @@ public:
 
     void load(const UrlRequest&) override {}
 
-    [[nodiscard]] BrowserConfiguration& configuration() override { std::abort(); }
+    void configure(const BrowserConfiguration&) override {}
 
     [[nodiscard]] std::optional<std::string> title() const override { return "page"; }
 

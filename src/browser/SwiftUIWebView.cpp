@@ -25,13 +25,13 @@ std::shared_ptr<BrowserView> SwiftUIWebView::makeNSView(const Context& context)
     if (parseUrl(link)) {
         webView_->load({.url = link, .cachePolicy = CachePolicy::useProtocolCachePolicy, .timeout = Seconds{60}});
     }
-    BrowserConfiguration& configuration = webView_->configuration();
-    configuration.setCustomUserAgent(kUserAgent);
-    configuration.setAllowsLinkPreview(true);
-    configuration.setAllowsContentJavaScript(true);
-    configuration.setDeveloperExtrasEnabled(true);
-    configuration.addUserScript(
-        {.source = kContextMenuScript, .injectionTime = ScriptInjectionTime::documentEnd, .forMainFrameOnly = true});
+    webView_->configure({.customUserAgent = kUserAgent,
+                         .allowsLinkPreview = true,
+                         .allowsContentJavaScript = true,
+                         .developerExtrasEnabled = true,
+                         .userScripts = {{.source = kContextMenuScript,
+                                          .injectionTime = ScriptInjectionTime::documentEnd,
+                                          .forMainFrameOnly = true}}});
     viewModel_->webView = webView_;
     return webView_;
 }

@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace orken {
 
@@ -20,7 +21,7 @@ struct UrlRequest {
     Seconds timeout{60};
 };
 
-enum class ScriptInjectionTime { documentStart, documentEnd };
+enum class ScriptInjectionTime { documentEnd };
 
 struct UserScript {
     std::string source;
@@ -28,23 +29,24 @@ struct UserScript {
     bool forMainFrameOnly = true;
 };
 
-/// Settings of one browser view. What is set after a load call in the same turn of the main loop still holds for that
-/// load. Main thread only.
-class BrowserConfiguration {
-public:
-    BrowserConfiguration() = default;
-    BrowserConfiguration(const BrowserConfiguration&) = delete;
-    BrowserConfiguration& operator=(const BrowserConfiguration&) = delete;
-    virtual ~BrowserConfiguration() = default;
-
-    virtual void setCustomUserAgent(const std::string& userAgent) = 0;
-    virtual void setAllowsLinkPreview(bool allows) = 0;
-    virtual void setAllowsContentJavaScript(bool allows) = 0;
-    virtual void setDeveloperExtrasEnabled(bool enabled) = 0;
-    virtual void addUserScript(const UserScript& script) = 0;
+/// How the product sets up a browser view.
+struct BrowserConfiguration {
+    /// Sent with every request in the place of the engine's own.
+    std::string customUserAgent;
+    bool allowsLinkPreview = false;
+    /// Whether the pages' own scripts run; the client's always do.
+    bool allowsContentJavaScript = true;
+    /// The engine's inspector can be opened.
+    bool developerExtrasEnabled = false;
+    std::vector<UserScript> userScripts;
 };
 
 /// The web engine's view, held by shared pointers. Main thread only, its destruction included.
+///
+/// Nothing that a page does by itself brings up a window or a question, or leaves a file. It goes on as if the user had
+/// declined: dialogs return empty (one that is asked before a page is left lets it go), choosers of files and colours
+/// are cancelled, permissions denied, printing, notifications, new windows and full screen for an element do not come
+/// about, and downloads are cancelled; documents pass through the navigation delegate.
 class BrowserView : public PlatformView, public std::enable_shared_from_this<BrowserView> {
 public:
     /// Not kept alive by the view; without one every navigation is allowed and every challenge cancelled.
@@ -53,7 +55,8 @@ public:
     /// Nothing is loaded for an address that cannot be parsed.
     virtual void load(const UrlRequest& request) = 0;
 
-    [[nodiscard]] virtual BrowserConfiguration& configuration() = 0;
+    /// Once a view. What comes after a load call in the same turn of the main loop still holds for that load.
+    virtual void configure(const BrowserConfiguration& configuration) = 0;
 
     /// Title of the page; absent when it has none.
     [[nodiscard]] virtual std::optional<std::string> title() const = 0;

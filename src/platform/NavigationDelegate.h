@@ -18,7 +18,7 @@ struct NavigationAction {
     std::optional<std::string> requestUrl;
 };
 
-/// The certificate chain that a server has shown.
+/// The certificate chains that servers show.
 class ServerTrust {
 public:
     ServerTrust() = default;
@@ -26,7 +26,7 @@ public:
     ServerTrust& operator=(const ServerTrust&) = delete;
     virtual ~ServerTrust() = default;
 
-    /// Accepts what the chain fails in now, as if it did not.
+    /// Accepts what a chain fails in, as if it did not.
     virtual void setOwnExceptions() = 0;
 };
 
@@ -50,6 +50,9 @@ public:
     virtual void didFailProvisionalNavigation(BrowserView& view, const PlatformError& error) = 0;
     /// A page has finished; a failed load is never reported here. The view's title and address are the page's.
     virtual void didFinishNavigation(BrowserView& view) = 0;
+    /// For a server's certificate and for every other challenge. A refusal of a certificate leaves the desktop's own
+    /// check in force. A desktop whose engine cannot ask for each connection asks before each load that the product
+    /// calls for, and the answer holds for all servers from then on.
     virtual void didReceiveAuthenticationChallenge(BrowserView& view, const AuthenticationChallenge& challenge,
                                                    std::function<void(ChallengeDisposition)> decide) = 0;
     /// Asked for the main frame and for sub-frames.

@@ -39,7 +39,7 @@ TEST(SwiftUIWebView, setsTheDelegateLoadsTheLinkAndThenConfiguresOnce)
     EXPECT_THAT(actsOfMaking(kPage),
                 ElementsAre("browser view", "navigation delegate", "load https://site.example/ within 60 s",
                             "user agent " + agent, "link previews on", "page scripts on", "developer extras on",
-                            "user script at end of the main frame: document.addEventListener(\"contextmenu\", "
+                            "user script of the main frame: document.addEventListener(\"contextmenu\", "
                             "function(event) {\n    event.preventDefault();\n});",
                             "print Gelen data tipi https", "request https://site.example/ as " + agent));
 }

@@ -27,7 +27,7 @@ struct Page {
 using Site = std::map<std::string, Page>;
 
 /// A browser view whose pages are a table; addresses that are not in it fail.
-class SimulatedBrowserView final : public BrowserView, public BrowserConfiguration {
+class SimulatedBrowserView final : public BrowserView {
 public:
     SimulatedBrowserView(MainLoop& loop, Journal& journal, const Site& site)
         : loop_(loop), journal_(journal), site_(site)
@@ -35,8 +35,6 @@ public:
     }
 
     [[nodiscard]] void* native() override { return nullptr; }
-
-    [[nodiscard]] BrowserConfiguration& configuration() override { return *this; }
 
     [[nodiscard]] std::optional<std::string> title() const override { return title_; }
 
@@ -61,19 +59,18 @@ public:
         navigate(request.url);
     }
 
-    void setCustomUserAgent(const std::string& userAgent) override { setUp("user agent ", userAgent_ = userAgent); }
-
-    void setAllowsLinkPreview(bool allows) override { setUp("link previews ", allows ? "on" : "off"); }
-
-    void setAllowsContentJavaScript(bool allows) override { setUp("page scripts ", allows ? "on" : "off"); }
-
-    void setDeveloperExtrasEnabled(bool enabled) override { setUp("developer extras ", enabled ? "on" : "off"); }
-
-    void addUserScript(const UserScript& script) override
+    void configure(const BrowserConfiguration& configuration) override
     {
-        const bool atEnd = script.injectionTime == ScriptInjectionTime::documentEnd;
-        journal_.add(std::string("user script at ") + (atEnd ? "end" : "start") +
-                     (script.forMainFrameOnly ? " of the main frame: " : " of every frame: ") + script.source);
+        const auto onOff = [](bool on) { return on ? "on" : "off"; };
+        userAgent_ = configuration.customUserAgent;
+        journal_.add("user agent " + userAgent_);
+        journal_.add(std::string("link previews ") + onOff(configuration.allowsLinkPreview));
+        journal_.add(std::string("page scripts ") + onOff(configuration.allowsContentJavaScript));
+        journal_.add(std::string("developer extras ") + onOff(configuration.developerExtrasEnabled));
+        for (const UserScript& script : configuration.userScripts) {
+            journal_.add(std::string("user script of ") +
+                         (script.forMainFrameOnly ? "the main frame: " : "every frame: ") + script.source);
+        }
     }
 
     void evaluateJavaScript(const std::string& script, ScriptCompletion completion) override
@@ -124,8 +121,6 @@ private:
                         [result = std::move(*result), completion = std::move(completion)] { completion(result); });
         }
     }
-
-    void setUp(const std::string& setting, const std::string& value) { journal_.add(setting + value); }
 
     void askPolicy(const std::string& url)
     {

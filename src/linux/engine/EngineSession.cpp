@@ -39,11 +39,6 @@ GObjectPtr<WebKitNetworkSession> makeSession(const EngineSettings& settings)
 EngineSession::EngineSession(const EngineSettings& settings)
     : context_(makeLimitedContext()), session_(makeSession(settings)), hasRenderNode_(settings.hasRenderNode)
 {
-    // The navigation delegate accepts every server's certificate. Asking it each time is not possible here: the engine
-    // reports a bad certificate only for the page itself, a failed one for an image or a frame is just dropped, and an
-    // exception covers a single host. Accepting for the session is the same answer for all of them.
-    webkit_network_session_set_tls_errors_policy(session_.get(), WEBKIT_TLS_ERRORS_POLICY_IGNORE);
-
     // Every challenge for a password is cancelled, so stored ones are never used; looking them up could only bring up
     // the key ring's own prompt.
     webkit_network_session_set_persistent_credential_storage_enabled(session_.get(), FALSE);

@@ -15,6 +15,14 @@ NavigationAction navigationAction(WebKitPolicyDecision* decision)
     return address && *address ? NavigationAction{.requestUrl = address} : NavigationAction{};
 }
 
+/// Stands for every server of the session.
+class SessionTrust final : public ServerTrust {
+public:
+    void setOwnExceptions() override { hasExceptions = true; }
+
+    bool hasExceptions = false;
+};
+
 void decideResponse(WebKitPolicyDecision* decision)
 {
     // What cannot be shown would be saved by default.
@@ -29,7 +37,7 @@ void decideResponse(WebKitPolicyDecision* decision)
 
 NavigationPolicies::NavigationPolicies(WebKitWebView* view, BrowserView& owner,
                                        const std::weak_ptr<NavigationDelegate>& delegate)
-    : owner_(owner), delegate_(delegate)
+    : view_(view), owner_(owner), delegate_(delegate)
 {
     decidePolicy_ = SignalConnection::make<gboolean(WebKitWebView*, WebKitPolicyDecision*, WebKitPolicyDecisionType)>(
         view, "decide-policy",
@@ -46,6 +54,28 @@ NavigationPolicies::NavigationPolicies(WebKitWebView* view, BrowserView& owner,
             askAboutChallenge(request);
             return TRUE;
         });
+}
+
+void NavigationPolicies::askAboutServers(std::function<void()> whenAnswered)
+{
+    const auto delegate = delegate_.lock();
+    const auto trust = std::make_shared<SessionTrust>();
+    auto decide = HeldAnswer<ChallengeDisposition>::handler(
+        [this, alive = alive_.watch(), trust,
+         whenAnswered = std::move(whenAnswered)](ChallengeDisposition disposition) {
+            if (alive.expired()) {
+                return;
+            }
+            const bool acceptsAll = disposition == ChallengeDisposition::useCredential && trust->hasExceptions;
+            webkit_network_session_set_tls_errors_policy(webkit_web_view_get_network_session(view_),
+                                                         acceptsAll ? WEBKIT_TLS_ERRORS_POLICY_IGNORE
+                                                                    : WEBKIT_TLS_ERRORS_POLICY_FAIL);
+            whenAnswered();
+        },
+        ChallengeDisposition::cancelAuthenticationChallenge);
+    if (delegate) {
+        delegate->didReceiveAuthenticationChallenge(owner_, {.serverTrust = trust}, std::move(decide));
+    }
 }
 
 void NavigationPolicies::askAboutNavigation(WebKitPolicyDecision* decision, bool opensWindow)

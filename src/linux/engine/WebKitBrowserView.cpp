@@ -22,7 +22,7 @@ std::optional<std::string> present(const char* text)
 } // namespace
 
 WebKitBrowserView::WebKitBrowserView(GObjectPtr<WebKitWebView> view, Report report)
-    : view_(std::move(view)), report_(std::move(report)), configuration_(view_.get())
+    : view_(std::move(view)), report_(std::move(report))
 {
 }
 
@@ -68,7 +68,11 @@ void WebKitBrowserView::beginRequest()
     if (!loads_) {
         connect();
     }
-    loads_->request(*request_);
+    policies_->askAboutServers([this] {
+        if (!isStopped_) {
+            loads_->request(*request_);
+        }
+    });
 }
 
 void WebKitBrowserView::connect()

@@ -46,7 +46,10 @@ public:
     void setNavigationDelegate(std::weak_ptr<NavigationDelegate> delegate) override;
     void load(const UrlRequest& request) override;
 
-    [[nodiscard]] BrowserConfiguration& configuration() override { return configuration_; }
+    void configure(const BrowserConfiguration& configuration) override
+    {
+        desktop::configure(view_.get(), configuration);
+    }
 
     [[nodiscard]] std::optional<std::string> title() const override;
     [[nodiscard]] std::optional<std::string> url() const override;
@@ -73,7 +76,6 @@ private:
     std::unique_ptr<SpareView> spare_;
     GObjectPtr<WebKitWebView> view_;
     Report report_;
-    WebKitConfiguration configuration_;
     std::weak_ptr<NavigationDelegate> delegate_;
     std::optional<UrlRequest> request_;
     /// The page that is being reported right now.

@@ -2,37 +2,32 @@
 
 namespace orken::desktop {
 
-void WebKitConfiguration::setCustomUserAgent(const std::string& userAgent)
+namespace {
+
+void addUserScript(WebKitWebView* view, const UserScript& script)
 {
-    webkit_settings_set_user_agent(settings(), userAgent.c_str());
+    WebKitUserScript* made = webkit_user_script_new(script.source.c_str(),
+                                                    script.forMainFrameOnly ? WEBKIT_USER_CONTENT_INJECT_TOP_FRAME
+                                                                            : WEBKIT_USER_CONTENT_INJECT_ALL_FRAMES,
+                                                    WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_END, nullptr, nullptr);
+    webkit_user_content_manager_add_script(webkit_web_view_get_user_content_manager(view), made);
+    webkit_user_script_unref(made);
 }
 
-// This engine has no link previews.
-void WebKitConfiguration::setAllowsLinkPreview(bool) {}
+} // namespace
 
-void WebKitConfiguration::setAllowsContentJavaScript(bool allows)
+void configure(WebKitWebView* view, const BrowserConfiguration& configuration)
 {
+    WebKitSettings* settings = webkit_web_view_get_settings(view);
+    webkit_settings_set_user_agent(settings, configuration.customUserAgent.c_str());
     // Only what the page itself brings along: with scripting switched off as a whole the client's own scripts would not
     // run either.
-    webkit_settings_set_enable_javascript(settings(), TRUE);
-    webkit_settings_set_enable_javascript_markup(settings(), allows);
-}
-
-void WebKitConfiguration::setDeveloperExtrasEnabled(bool enabled)
-{
-    webkit_settings_set_enable_developer_extras(settings(), enabled);
-}
-
-void WebKitConfiguration::addUserScript(const UserScript& script)
-{
-    WebKitUserScript* made = webkit_user_script_new(
-        script.source.c_str(),
-        script.forMainFrameOnly ? WEBKIT_USER_CONTENT_INJECT_TOP_FRAME : WEBKIT_USER_CONTENT_INJECT_ALL_FRAMES,
-        script.injectionTime == ScriptInjectionTime::documentStart ? WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_START
-                                                                   : WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_END,
-        nullptr, nullptr);
-    webkit_user_content_manager_add_script(webkit_web_view_get_user_content_manager(view_), made);
-    webkit_user_script_unref(made);
+    webkit_settings_set_enable_javascript(settings, TRUE);
+    webkit_settings_set_enable_javascript_markup(settings, configuration.allowsContentJavaScript);
+    webkit_settings_set_enable_developer_extras(settings, configuration.developerExtrasEnabled);
+    for (const UserScript& script : configuration.userScripts) {
+        addUserScript(view, script);
+    }
 }
 
 } // namespace orken::desktop

@@ -6,21 +6,7 @@
 
 namespace orken::desktop {
 
-/// The settings of a view that lives longer than this. Main thread only.
-class WebKitConfiguration final : public BrowserConfiguration {
-public:
-    explicit WebKitConfiguration(WebKitWebView* view) : view_(view) {}
-
-    void setCustomUserAgent(const std::string& userAgent) override;
-    void setAllowsLinkPreview(bool allows) override;
-    void setAllowsContentJavaScript(bool allows) override;
-    void setDeveloperExtrasEnabled(bool enabled) override;
-    void addUserScript(const UserScript& script) override;
-
-private:
-    [[nodiscard]] WebKitSettings* settings() const { return webkit_web_view_get_settings(view_); }
-
-    WebKitWebView* view_;
-};
+/// Sets up a view; there are no link previews on this engine. Main thread only.
+void configure(WebKitWebView* view, const BrowserConfiguration& configuration);
 
 } // namespace orken::desktop
