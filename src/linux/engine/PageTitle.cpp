@@ -26,7 +26,7 @@ std::optional<std::string> textResult(WebKitWebView* view, GAsyncResult* result)
 } // namespace
 
 PageTitle::PageTitle(WebKitWebView* view, Answer answer)
-    : view_(view), answer_(std::move(answer)), deadline_(kPatience, [this] { answerNow(); })
+    : view_(view), answer_(std::move(answer)), deadline_(Source::after(kPatience, [this] { answerNow(); }))
 {
     webkit_web_view_evaluate_javascript(view, "document.title", -1, kScriptWorld, nullptr, nullptr, AsyncReply::call,
                                         AsyncReply::of([query = std::weak_ptr(self_), view](GAsyncResult* result) {

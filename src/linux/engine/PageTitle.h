@@ -1,6 +1,6 @@
 #pragma once
 
-#include "linux/loop/Deadline.h"
+#include "linux/loop/Source.h"
 
 #include <webkit/webkit.h>
 
@@ -27,7 +27,7 @@ private:
 
     WebKitWebView* view_;
     Answer answer_;
-    Deadline deadline_;
+    Source deadline_;
     std::shared_ptr<PageTitle*> self_ = std::make_shared<PageTitle*>(this);
 };
 
