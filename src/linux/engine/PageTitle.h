@@ -1,11 +1,11 @@
 #pragma once
 
+#include "linux/loop/Alive.h"
 #include "linux/loop/Source.h"
 
 #include <webkit/webkit.h>
 
 #include <functional>
-#include <memory>
 #include <string>
 
 namespace orken::desktop {
@@ -28,7 +28,7 @@ private:
     WebKitWebView* view_;
     Answer answer_;
     Source deadline_;
-    std::shared_ptr<PageTitle*> self_ = std::make_shared<PageTitle*>(this);
+    Alive alive_;
 };
 
 } // namespace orken::desktop
