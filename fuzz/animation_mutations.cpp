@@ -38,7 +38,7 @@ enum class Answer { opened, refused, failed };
 bool waitFor(const std::function<bool()>& condition)
 {
     bool isOver = false;
-    const desktop::Deadline limit(kLimit, [&isOver] { isOver = true; });
+    const auto limit = desktop::Source::after(kLimit, [&isOver] { isOver = true; });
     while (!condition() && !isOver) {
         g_main_context_iteration(nullptr, TRUE);
     }

@@ -3,7 +3,6 @@
 #include "linux/services/InstalledFolders.h"
 
 #include <dlfcn.h>
-#include <glib.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -41,17 +40,14 @@ EngineModule* LazyEngine::load()
 
 void LazyEngine::loadWhenIdle()
 {
-    auto loadAndWarmUp = +[](gpointer data) -> gboolean {
-        auto* self = static_cast<LazyEngine*>(data);
-        self->idle_ = 0;
-        if (EngineModule* engine = self->load()) {
+    if (loading_.isPending() || engine_) {
+        return;
+    }
+    loading_ = Source::idle(G_PRIORITY_LOW, [this] {
+        if (EngineModule* engine = load()) {
             engine->warmUp();
         }
-        return G_SOURCE_REMOVE;
-    };
-    if (idle_ == 0 && !engine_) {
-        idle_ = g_idle_add_full(G_PRIORITY_LOW, loadAndWarmUp, this, nullptr);
-    }
+    });
 }
 
 std::shared_ptr<BrowserView> LazyEngine::make()
@@ -85,9 +81,7 @@ void LazyEngine::removeData(WebsiteDataTypes types, const std::vector<WebsiteDat
 
 void LazyEngine::stop()
 {
-    if (const unsigned idle = std::exchange(idle_, 0)) {
-        g_source_remove(idle);
-    }
+    loading_.end();
     if (engine_) {
         engine_->stop();
     }

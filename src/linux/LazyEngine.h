@@ -1,6 +1,7 @@
 #pragma once
 
 #include "linux/engine/EngineModule.h"
+#include "linux/loop/Source.h"
 #include "platform/BrowserView.h"
 #include "platform/WebsiteDataStore.h"
 
@@ -11,7 +12,7 @@
 namespace orken::desktop {
 
 /// The web engine's ports in front of a module that is loaded late: linking the engine would keep the start window
-/// from the screen. Whoever needs the engine before the idle moment came loads it then. Main thread only.
+/// from the screen. Whoever needs the engine before that idle moment loads it then. Main thread only.
 class LazyEngine final : public BrowserViews, public WebsiteDataStore {
 public:
     explicit LazyEngine(EngineSettings settings) : settings_(std::move(settings)) {}
@@ -41,7 +42,7 @@ private:
 
     EngineSettings settings_;
     std::unique_ptr<EngineModule> engine_;
-    unsigned idle_ = 0;
+    Source loading_;
 };
 
 } // namespace orken::desktop

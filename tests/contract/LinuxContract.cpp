@@ -48,15 +48,13 @@ public:
     [[nodiscard]] bool runUntil(const std::function<bool()>& done, Seconds limit) override
     {
         bool late = false;
-        auto setLate = +[](gpointer data) -> gboolean { return *static_cast<bool*>(data) = true; };
         // Completions of the background queue wake nobody here, so the condition is looked at now and then.
         auto look = +[](gpointer) -> gboolean { return G_SOURCE_CONTINUE; };
-        const guint limiter = g_timeout_add(static_cast<guint>(limit.count() * 1000), setLate, &late);
+        const auto limiter = Source::after(limit, [&late] { late = true; });
         const guint looker = g_timeout_add(10, look, nullptr);
         while (!done() && !late) {
             g_main_context_iteration(nullptr, TRUE);
         }
-        g_source_remove(limiter);
         g_source_remove(looker);
         return done();
     }

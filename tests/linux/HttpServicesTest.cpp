@@ -1,5 +1,6 @@
 #include "linux/loop/GObjectPtr.h"
 #include "linux/loop/PrivateContext.h"
+#include "linux/loop/Source.h"
 #include "linux/services/BlockingReader.h"
 #include "linux/services/HttpSession.h"
 
@@ -10,7 +11,6 @@
 #include <cstring>
 #include <filesystem>
 #include <future>
-#include <glib-unix.h>
 #include <libsoup/soup.h>
 #include <thread>
 #include <unistd.h>
@@ -129,12 +129,6 @@ std::size_t threads()
     return static_cast<std::size_t>(std::distance(begin(tasks), end(tasks)));
 }
 
-gboolean count(gpointer calls)
-{
-    ++*static_cast<int*>(calls);
-    return G_SOURCE_CONTINUE;
-}
-
 TEST(HttpSession, anyStatusIsAnAnswerWithItsBodyAndType)
 {
     const LoopbackServer server;
@@ -225,13 +219,13 @@ TEST(BlockingReader, readsTextWithoutServingTheMainLoop)
 {
     const LoopbackServer server;
     int served = 0;
-    const guint idle = g_idle_add(count, &served);
+    auto idle = Source::idle(G_PRIORITY_DEFAULT, [&served] { ++served; });
     BlockingReader reader;
     const auto text = reader.readText(server.url("/moved"));
     ASSERT_TRUE(text) << text.error().message;
     EXPECT_EQ(text.value(), "ağla");
     EXPECT_EQ(served, 0);
-    g_source_remove(idle);
+    idle.end();
     EXPECT_FALSE(BlockingReader(kSmall).readText(server.url("/large")));
     EXPECT_FALSE(BlockingReader(kSmall).readText(server.url("/silent")));
     EXPECT_FALSE(reader.readText("no address"));
@@ -241,7 +235,7 @@ TEST(BlockingReader, aTerminationSignalCancelsItAndReachesTheMainLoopAfterwards)
 {
     const LoopbackServer server;
     int terminations = 0;
-    const guint handler = g_unix_signal_add(SIGTERM, count, &terminations);
+    const auto handler = Source::onSignal(SIGTERM, [&terminations] { ++terminations; });
     const auto begin = std::chrono::steady_clock::now();
     EXPECT_FALSE(BlockingReader().readText(server.url("/terminating")));
     EXPECT_LT(std::chrono::steady_clock::now() - begin, 30s);
@@ -249,7 +243,6 @@ TEST(BlockingReader, aTerminationSignalCancelsItAndReachesTheMainLoopAfterwards)
     while (terminations == 0) {
         g_main_context_iteration(nullptr, TRUE);
     }
-    g_source_remove(handler);
 }
 
 } // namespace

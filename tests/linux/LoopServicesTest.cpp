@@ -20,10 +20,23 @@ void serveUntil(Condition condition)
 void serveFor(Seconds duration)
 {
     bool over = false;
-    const auto end = makeTimedSource("end", [&] { over = true; });
-    g_source_set_ready_time(end.get(), g_get_monotonic_time() + static_cast<gint64>(duration.count() * G_USEC_PER_SEC));
-    g_source_attach(end.get(), nullptr);
+    const auto end = Source::after(duration, [&] { over = true; });
     serveUntil([&] { return over; });
+}
+
+TEST(Source, aCallMayReplaceAndEndItsOwnSource)
+{
+    auto text = std::make_unique<std::string>("kept");
+    std::string read;
+    Source source;
+    source = Source::idle(G_PRIORITY_DEFAULT, [&source, &read, text = std::shared_ptr<std::string>(std::move(text))] {
+        EXPECT_FALSE(source.isPending());
+        source = Source::timed([&source] { source = {}; });
+        source.setReadyTime(0);
+        read = *text;
+    });
+    serveUntil([&] { return !source.isPending(); });
+    EXPECT_EQ(read, "kept");
 }
 
 TEST(LoopTimers, standStillUnderAlertsAndThenFireOnce)

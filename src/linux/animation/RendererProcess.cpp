@@ -3,7 +3,6 @@
 #include "linux/animation/RendererSpawn.h"
 
 #include <fcntl.h>
-#include <glib-unix.h>
 #include <sys/socket.h>
 
 #include <cassert>
@@ -18,13 +17,13 @@ RendererProcess::RendererProcess(const std::filesystem::path& program, const std
 {
     const bool hasStarted = start(program, document);
     // Never from inside the constructor.
-    deadline_ = std::make_unique<Deadline>(hasStarted ? kStartPatience : Seconds{0}, [this] { fail(); });
+    deadline_ = Source::after(hasStarted ? kStartPatience : Seconds{0}, [this] { fail(); });
 }
 
 RendererProcess::~RendererProcess()
 {
     if (process_ > 0) {
-        // Not yet collected, so the number is still its own.
+        // Not yet collected, so the number is still its own. Its end is watched for after this object has gone.
         kill(process_, SIGKILL);
         g_child_watch_add(
             process_, [](GPid, gint, gpointer) {}, nullptr);
@@ -47,13 +46,7 @@ bool RendererProcess::start(const std::filesystem::path& program, const std::str
     const auto process =
         spawnRenderer(program, {.socket = other.get(), .pixels = pixels_.descriptor(), .document = memory.get()});
     process_ = process.value_or(0);
-    input_.reset(g_unix_fd_source_new(socket_.get(), G_IO_IN));
-    auto canRead = +[](gint, GIOCondition, gpointer data) -> gboolean {
-        static_cast<RendererProcess*>(data)->read();
-        return G_SOURCE_CONTINUE;
-    };
-    g_source_set_callback(input_.get(), G_SOURCE_FUNC(canRead), this, nullptr);
-    g_source_attach(input_.get(), nullptr);
+    input_ = Source::onInput(socket_.get(), [this] { read(); });
     return process.has_value();
 }
 
@@ -70,7 +63,7 @@ void RendererProcess::send()
 {
     // A renderer that has gone is found out by reading.
     (void)::send(socket_.get(), &*request_, sizeof *request_, MSG_NOSIGNAL);
-    deadline_ = std::make_unique<Deadline>(kPatience, [this] { fail(); });
+    deadline_ = Source::after(kPatience, [this] { fail(); });
 }
 
 void RendererProcess::read()
@@ -88,13 +81,13 @@ void RendererProcess::take(renderer::Answer answer)
 {
     if (answer == renderer::Answer::ready && !isReady_) {
         isReady_ = true;
-        deadline_.reset();
+        deadline_.end();
         if (request_) {
             send();
         }
     } else if (answer == renderer::Answer::drawn && isReady_ && request_) {
         request_.reset();
-        deadline_.reset();
+        deadline_.end();
         // What is called may end this object.
         const auto drawn = events_.drawn;
         drawn();
@@ -105,8 +98,8 @@ void RendererProcess::take(renderer::Answer answer)
 
 void RendererProcess::fail()
 {
-    deadline_.reset();
-    input_.reset();
+    deadline_.end();
+    input_.end();
     if (const auto failed = std::exchange(events_.failed, nullptr)) {
         failed();
     }

@@ -1,13 +1,11 @@
 #pragma once
 
 #include "linux/animation/FramePixels.h"
-#include "linux/loop/Deadline.h"
-#include "linux/loop/LoopSource.h"
+#include "linux/loop/Source.h"
 #include "linux/renderer/Protocol.h"
 
 #include <filesystem>
 #include <functional>
-#include <memory>
 #include <optional>
 #include <string>
 #include <sys/types.h>
@@ -56,8 +54,8 @@ private:
     pid_t process_ = 0;
     bool isReady_ = false;
     std::optional<renderer::Request> request_;
-    SourcePtr input_;
-    std::unique_ptr<Deadline> deadline_;
+    Source input_;
+    Source deadline_;
 };
 
 } // namespace orken::desktop

@@ -20,7 +20,7 @@ void PageLoads::request(const UrlRequest& request)
 {
     request_ = Request::made;
     // The engine's request has no time-out of its own.
-    deadline_ = std::make_unique<Deadline>(request.timeout, [this, address = request.url] { timedOut(address); });
+    deadline_ = Source::after(request.timeout, [this, address = request.url] { timedOut(address); });
     webkit_web_view_load_uri(view_, request.url.c_str());
 }
 
@@ -78,7 +78,7 @@ void PageLoads::endRequest()
 {
     if (request_ == Request::started) {
         request_ = Request::none;
-        deadline_.reset();
+        deadline_.end();
     }
 }
 

@@ -1,14 +1,13 @@
 #pragma once
 
 #include "foundation/PlatformError.h"
-#include "linux/loop/Deadline.h"
 #include "linux/loop/SignalConnection.h"
+#include "linux/loop/Source.h"
 #include "platform/BrowserView.h"
 
 #include <webkit/webkit.h>
 
 #include <functional>
-#include <memory>
 
 namespace orken::desktop {
 
@@ -47,7 +46,7 @@ private:
     bool finishIsOfFailure_ = false;
     bool failureIsKnown_ = false;
     Request request_ = Request::none;
-    std::unique_ptr<Deadline> deadline_;
+    Source deadline_;
     SignalConnection loadChanged_;
     SignalConnection loadFailed_;
 };

@@ -26,20 +26,19 @@ std::optional<std::string> textResult(WebKitWebView* view, GAsyncResult* result)
 } // namespace
 
 PageTitle::PageTitle(WebKitWebView* view, Answer answer)
-    : view_(view), answer_(std::move(answer)), deadline_(kPatience, [this] { answerNow(); })
+    : view_(view), answer_(std::move(answer)), deadline_(Source::after(kPatience, [this] { answerNow(); }))
 {
     webkit_web_view_evaluate_javascript(view, "document.title", -1, kScriptWorld, nullptr, nullptr, AsyncReply::call,
-                                        AsyncReply::of([query = std::weak_ptr(self_), view](GAsyncResult* result) {
+                                        AsyncReply::of([this, watch = alive_.watch(), view](GAsyncResult* result) {
                                             // The engine keeps the view alive until it has called back.
                                             auto title = textResult(view, result);
-                                            const auto alive = query.lock();
-                                            if (!alive) {
+                                            if (watch.expired()) {
                                                 return;
                                             }
                                             if (title) {
-                                                (*alive)->answer(std::move(*title));
+                                                this->answer(std::move(*title));
                                             } else {
-                                                (*alive)->answerNow();
+                                                answerNow();
                                             }
                                         }));
 }

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "linux/loop/Deadline.h"
+#include "linux/loop/Alive.h"
+#include "linux/loop/Source.h"
 
 #include <webkit/webkit.h>
 
 #include <functional>
-#include <memory>
 #include <string>
 
 namespace orken::desktop {
@@ -27,8 +27,8 @@ private:
 
     WebKitWebView* view_;
     Answer answer_;
-    Deadline deadline_;
-    std::shared_ptr<PageTitle*> self_ = std::make_shared<PageTitle*>(this);
+    Source deadline_;
+    Alive alive_;
 };
 
 } // namespace orken::desktop

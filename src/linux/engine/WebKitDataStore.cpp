@@ -46,13 +46,13 @@ std::unique_ptr<GList, decltype(&g_list_free)> listOf(const std::vector<WebsiteD
 void WebKitDataStore::fetchDataRecords(WebsiteDataTypes types,
                                        std::function<void(std::vector<WebsiteDataRecord>)> completion)
 {
-    ++*pending_;
-    auto answered = [manager = manager_, pending = std::weak_ptr(pending_),
+    ++pending_;
+    auto answered = [this, watch = alive_.watch(), manager = manager_,
                      completion = std::move(completion)](GAsyncResult* result) {
         auto records = takeRecords(webkit_website_data_manager_fetch_finish(manager, result, nullptr));
-        if (const auto count = pending.lock()) {
+        if (!watch.expired()) {
             completion(std::move(records));
-            --*count;
+            --pending_;
         }
     };
     webkit_website_data_manager_fetch(manager_, engineTypes(types), nullptr, AsyncReply::call,
@@ -62,14 +62,13 @@ void WebKitDataStore::fetchDataRecords(WebsiteDataTypes types,
 void WebKitDataStore::removeData(WebsiteDataTypes types, const std::vector<WebsiteDataRecord>& records,
                                  std::function<void()> completion)
 {
-    ++*pending_;
-    gpointer reply =
-        AsyncReply::of([pending = std::weak_ptr(pending_), completion = std::move(completion)](GAsyncResult*) {
-            if (const auto count = pending.lock()) {
-                completion();
-                --*count;
-            }
-        });
+    ++pending_;
+    gpointer reply = AsyncReply::of([this, watch = alive_.watch(), completion = std::move(completion)](GAsyncResult*) {
+        if (!watch.expired()) {
+            completion();
+            --pending_;
+        }
+    });
     if (records.empty()) {
         // The engine takes no empty list; a task that is done at once answers on a later turn as well.
         const auto done = GObjectPtr<GTask>::adopt(g_task_new(manager_, nullptr, AsyncReply::call, reply));

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "linux/loop/Alive.h"
 #include "platform/WebsiteDataStore.h"
 
 #include <webkit/webkit.h>
 
 #include <cstddef>
-#include <memory>
 
 namespace orken::desktop {
 
@@ -20,12 +20,12 @@ public:
     void removeData(WebsiteDataTypes types, const std::vector<WebsiteDataRecord>& records,
                     std::function<void()> completion) override;
 
-    [[nodiscard]] std::size_t pendingOperations() const { return *pending_; }
+    [[nodiscard]] std::size_t pendingOperations() const { return pending_; }
 
 private:
     WebKitWebsiteDataManager* manager_;
-    /// Held weakly by the replies, which call nobody back once the store has gone.
-    std::shared_ptr<std::size_t> pending_ = std::make_shared<std::size_t>(0);
+    std::size_t pending_ = 0;
+    Alive alive_;
 };
 
 } // namespace orken::desktop

@@ -3,7 +3,6 @@
 #include "linux/gtk/RunningCopy.h"
 #include "linux/services/StandardConsole.h"
 
-#include <glib-unix.h>
 #include <gtk/gtk.h>
 
 #include <csignal>
@@ -15,7 +14,7 @@ namespace orken::desktop {
 
 namespace {
 
-constexpr guint kCleanUpLimitMilliseconds = 2000;
+constexpr Seconds kCleanUpPatience{2};
 
 // A button without a bezel: only its label is seen, with the toolkit's focus ring and a hint of being pressed. Black,
 // since the theme's own colour has not enough contrast with the gray behind it (3.9 to 1 when light, 3.3 to 1 when
@@ -35,13 +34,6 @@ void installStyle()
 }
 
 } // namespace
-
-DesktopApplication::~DesktopApplication()
-{
-    for (const guint signal : signals_) {
-        g_source_remove(signal);
-    }
-}
 
 int DesktopApplication::run(ApplicationDelegate& delegate, const WindowGroup& group)
 {
@@ -92,12 +84,8 @@ std::optional<int> DesktopApplication::launch(ApplicationDelegate& delegate, con
 
 void DesktopApplication::watchSignals()
 {
-    auto onSignal = +[](gpointer data) -> gboolean {
-        static_cast<DesktopApplication*>(data)->terminate();
-        return G_SOURCE_CONTINUE;
-    };
     for (const int number : {SIGTERM, SIGHUP, SIGINT}) {
-        signals_.push_back(g_unix_signal_add(number, onSignal, this));
+        signals_.push_back(Source::onSignal(number, [this] { terminate(); }));
     }
 }
 
@@ -143,15 +131,10 @@ void DesktopApplication::finishCleanUp()
 {
     // Without this the process would be gone before the engine has removed anything.
     bool late = false;
-    auto setLate = +[](gpointer data) -> gboolean {
-        *static_cast<bool*>(data) = true;
-        return G_SOURCE_CONTINUE;
-    };
-    const guint limit = g_timeout_add(kCleanUpLimitMilliseconds, setLate, &late);
+    const Source limit = Source::after(kCleanUpPatience, [&late] { late = true; });
     while (!late && hooks_.isCleaningUp()) {
         g_main_context_iteration(nullptr, TRUE);
     }
-    g_source_remove(limit);
     if (late) {
         reportDiagnostic("orken: the web engine did not finish clearing its data");
     }

@@ -3,6 +3,7 @@
 #include "linux/gtk/DesktopScreens.h"
 #include "linux/gtk/DesktopWindows.h"
 #include "linux/loop/GObjectPtr.h"
+#include "linux/loop/Source.h"
 #include "platform/Application.h"
 #include "platform/TerminationLatch.h"
 
@@ -33,8 +34,6 @@ public:
     {
     }
 
-    ~DesktopApplication() override;
-
     [[nodiscard]] int run(ApplicationDelegate& delegate, const WindowGroup& group) override;
     void terminate() override;
 
@@ -59,7 +58,7 @@ private:
     WindowGroup group_;
     GObjectPtr<GtkApplication> application_;
     SignalConnection activated_;
-    std::vector<guint> signals_;
+    std::vector<Source> signals_;
     bool launched_ = false;
     bool ended_ = false;
 };

@@ -13,13 +13,6 @@ GObjectPtr<GdkMonitor> monitorAt(GListModel* monitors, guint index)
 
 } // namespace
 
-DesktopScreens::~DesktopScreens()
-{
-    if (pending_ != 0) {
-        g_source_remove(pending_);
-    }
-}
-
 void DesktopScreens::start()
 {
     listChanged_ = SignalConnection::make<void(GListModel*, guint, guint, guint)>(
@@ -45,16 +38,11 @@ void DesktopScreens::watchMonitors()
 
 void DesktopScreens::changed()
 {
-    if (pending_ != 0) {
-        return;
+    if (!notification_.isPending()) {
+        notification_ = Source::idle(G_PRIORITY_DEFAULT, [this] {
+            notifications_.post(NotificationName::applicationDidChangeScreenParameters);
+        });
     }
-    auto post = +[](gpointer data) -> gboolean {
-        auto* self = static_cast<DesktopScreens*>(data);
-        self->pending_ = 0;
-        self->notifications_.post(NotificationName::applicationDidChangeScreenParameters);
-        return G_SOURCE_REMOVE;
-    };
-    pending_ = g_idle_add_full(G_PRIORITY_DEFAULT, post, this, nullptr);
 }
 
 std::optional<Rect> DesktopScreens::mainScreenFrame() const

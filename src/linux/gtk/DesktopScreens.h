@@ -1,6 +1,7 @@
 #pragma once
 
 #include "linux/loop/SignalConnection.h"
+#include "linux/loop/Source.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Screens.h"
 #include "platform/Windows.h"
@@ -20,8 +21,6 @@ public:
     {
     }
 
-    ~DesktopScreens() override;
-
     /// Begins to watch; the toolkit must have been initialised.
     void start();
 
@@ -35,7 +34,7 @@ private:
     std::function<GtkWindow*()> keyWindow_;
     SignalConnection listChanged_;
     std::vector<SignalConnection> monitorChanged_;
-    guint pending_ = 0;
+    Source notification_;
 };
 
 } // namespace orken::desktop

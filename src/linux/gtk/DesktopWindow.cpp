@@ -8,7 +8,7 @@ namespace orken::desktop {
 
 namespace {
 
-constexpr guint kFullScreenDeadlineMilliseconds = 2000;
+constexpr Seconds kFullScreenPatience{2};
 
 GtkWindow* makeGtkWindow(const Rect& contentRect, WindowStyleMask styleMask)
 {
@@ -46,7 +46,6 @@ DesktopWindow::DesktopWindow(Owner owner, const Rect& contentRect, WindowStyleMa
 
 DesktopWindow::~DesktopWindow()
 {
-    forgetDeadline();
     silence();
     connections_.clear();
     // The widgets report to the tree and stand in the window: they go before both.
@@ -105,16 +104,7 @@ void DesktopWindow::toggleFullScreen()
     } else {
         gtk_window_unfullscreen(window_);
     }
-    forgetDeadline();
-    deadline_ = g_timeout_add(
-        kFullScreenDeadlineMilliseconds,
-        [](gpointer data) -> gboolean {
-            auto* self = static_cast<DesktopWindow*>(data);
-            self->deadline_ = 0;
-            self->fullScreen_.givenUp();
-            return G_SOURCE_REMOVE;
-        },
-        this);
+    deadline_ = Source::after(kFullScreenPatience, [this] { fullScreen_.givenUp(); });
 }
 
 void DesktopWindow::close()
@@ -149,7 +139,7 @@ void DesktopWindow::watchSurface()
 void DesktopWindow::fullScreenReported()
 {
     for (const FullScreenChange change : fullScreen_.reported(gtk_window_is_fullscreen(window_) != FALSE)) {
-        forgetDeadline();
+        deadline_.end();
         post(change);
     }
 }
@@ -157,13 +147,6 @@ void DesktopWindow::fullScreenReported()
 void DesktopWindow::post(FullScreenChange change)
 {
     owner_.notifications.post(notificationName(change));
-}
-
-void DesktopWindow::forgetDeadline()
-{
-    if (const guint deadline = std::exchange(deadline_, 0)) {
-        g_source_remove(deadline);
-    }
 }
 
 } // namespace orken::desktop

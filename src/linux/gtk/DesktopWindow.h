@@ -2,6 +2,7 @@
 
 #include "linux/gtk/GtkViewHost.h"
 #include "linux/loop/SignalConnection.h"
+#include "linux/loop/Source.h"
 #include "platform/FullScreenTransition.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Window.h"
@@ -53,7 +54,6 @@ private:
     void watchSurface();
     void fullScreenReported();
     void post(FullScreenChange change);
-    void forgetDeadline();
 
     Owner owner_;
     WindowStyleMask styleMask_;
@@ -61,7 +61,7 @@ private:
     std::unique_ptr<GtkViewHost> host_;
     std::shared_ptr<ViewTree> tree_;
     FullScreenTransition fullScreen_;
-    guint deadline_ = 0;
+    Source deadline_;
     Size size_;
     std::vector<SignalConnection> connections_;
     SignalConnection layout_;

@@ -27,14 +27,6 @@ std::vector<GtkWindow*> foreignToplevels()
     return windows;
 }
 
-void destroyLater(std::shared_ptr<DesktopWindow> window)
-{
-    g_idle_add_full(
-        G_PRIORITY_LOW, [](gpointer) -> gboolean { return G_SOURCE_REMOVE; },
-        new std::shared_ptr<DesktopWindow>(std::move(window)),
-        [](gpointer data) { delete static_cast<std::shared_ptr<DesktopWindow>*>(data); });
-}
-
 } // namespace
 
 DesktopWindows::DesktopWindows(NotificationCenter& notifications, WindowAlertGate& alertGate, KeyMonitors& keyMonitors)
@@ -101,8 +93,9 @@ void DesktopWindows::closedGroupWindow(DesktopWindow& window)
         std::find_if(windows_.begin(), windows_.end(), [&](const auto& entry) { return entry.get() == &window; });
     if (found != windows_.end()) {
         window.silence();
-        destroyLater(std::move(*found));
+        closedWindows_.push_back(std::move(*found));
         windows_.erase(found);
+        destruction_ = Source::idle(G_PRIORITY_LOW, [this] { closedWindows_.clear(); });
     }
 }
 

@@ -4,6 +4,7 @@
 #include "linux/gtk/DesktopWindow.h"
 #include "linux/gtk/KeyDownEvents.h"
 #include "linux/gtk/ToolkitWindow.h"
+#include "linux/loop/Source.h"
 #include "platform/NotificationCenter.h"
 #include "platform/WindowRegistry.h"
 #include "platform/Windows.h"
@@ -61,6 +62,9 @@ private:
     std::function<void()> userQuits_;
     WindowRegistry registry_;
     std::vector<std::shared_ptr<DesktopWindow>> windows_;
+    /// Their content may still be at work.
+    std::vector<std::shared_ptr<DesktopWindow>> closedWindows_;
+    Source destruction_;
     std::vector<std::shared_ptr<ToolkitWindow>> toolkitWindows_;
     std::shared_ptr<AlertPanel> permanentPanel_;
     SignalConnection toplevelsChanged_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "linux/loop/SignalConnection.h"
+#include "linux/loop/Source.h"
 
 #include <gtk/gtk.h>
 
@@ -26,12 +27,13 @@ public:
     void afterFirst(std::function<void()> callback);
 
 private:
+    void addIdle(int priority, std::function<void()> callback);
     void framePainted();
 
     GtkWindow* window_;
-    std::vector<guint> idles_;
+    std::vector<Source> idles_;
     std::vector<std::function<void()>> waiting_;
-    guint tick_ = 0;
+    guint tickCallback_ = 0;
     bool hasPainted_ = false;
     SignalConnection afterPaint_;
 };

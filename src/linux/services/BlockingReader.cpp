@@ -1,35 +1,14 @@
 #include "linux/services/BlockingReader.h"
 
 #include "foundation/TextDecoding.h"
-#include "linux/loop/LoopSource.h"
 #include "linux/loop/PrivateContext.h"
+#include "linux/loop/Source.h"
 #include "linux/services/HttpLoad.h"
-
-#include <glib-unix.h>
 
 #include <csignal>
 #include <utility>
 
 namespace orken::desktop {
-
-namespace {
-
-/// GLib tells every source of a signal, so the main context's own ones find it pending when they are served again.
-SourcePtr cancelOnSignal(int signal, const PrivateContext& context, GCancellable* cancellable)
-{
-    SourcePtr source(g_unix_signal_source_new(signal));
-    g_source_set_callback(
-        source.get(),
-        [](gpointer data) -> gboolean {
-            g_cancellable_cancel(static_cast<GCancellable*>(data));
-            return G_SOURCE_CONTINUE;
-        },
-        cancellable, nullptr);
-    g_source_attach(source.get(), context.get());
-    return source;
-}
-
-} // namespace
 
 BlockingReader::BlockingReader(HttpOptions options) : options_(std::move(options)) {}
 
@@ -38,9 +17,11 @@ Outcome<std::string> BlockingReader::readText(const std::string& url)
     const PrivateContext context;
     const ThreadDefault current(context);
     const auto cancellable = GObjectPtr<GCancellable>::adopt(g_cancellable_new());
-    const auto terminate = cancelOnSignal(SIGTERM, context, cancellable.get());
-    const auto hangUp = cancelOnSignal(SIGHUP, context, cancellable.get());
-    const auto interrupt = cancelOnSignal(SIGINT, context, cancellable.get());
+    // The main context's own sources of these signals find them pending when they are served again.
+    const auto cancel = [&cancellable] { g_cancellable_cancel(cancellable.get()); };
+    const auto terminate = Source::onSignal(SIGTERM, cancel, context.get());
+    const auto hangUp = Source::onSignal(SIGHUP, cancel, context.get());
+    const auto interrupt = Source::onSignal(SIGINT, cancel, context.get());
 
     const auto session = makeHttpSession(options_);
     std::optional<HttpAnswer> answer;

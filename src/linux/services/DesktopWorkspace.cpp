@@ -1,13 +1,14 @@
 #include "linux/services/DesktopWorkspace.h"
 
+#include "linux/loop/AsyncReply.h"
 #include "linux/loop/GObjectPtr.h"
 #include "linux/services/StandardConsole.h"
 
 #include <gio/gio.h>
 
 #include <array>
-#include <memory>
 #include <string>
+#include <utility>
 
 namespace orken::desktop {
 
@@ -39,31 +40,26 @@ void openFolder(const Path& file)
     }
 }
 
-void answered(GObject* bus, GAsyncResult* result, gpointer data)
+void showInFileManager(const GObjectPtr<GDBusConnection>& bus, const Path& file)
 {
-    const std::unique_ptr<Path> file(static_cast<Path*>(data));
-    if (GVariant* reply = g_dbus_connection_call_finish(G_DBUS_CONNECTION(bus), result, nullptr)) {
-        g_variant_unref(reply);
-    } else {
-        openFolder(*file);
-    }
-}
-
-void connected(GObject*, GAsyncResult* result, gpointer data)
-{
-    std::unique_ptr<Path> file(static_cast<Path*>(data));
-    const auto bus = GObjectPtr<GDBusConnection>::adopt(g_bus_get_finish(result, nullptr));
-    const GText uri = uriOf(*file);
+    const GText uri = uriOf(file);
     if (!bus || !uri) {
-        openFolder(*file);
+        openFolder(file);
         return;
     }
     const std::array<const char*, 2> uris{uri.get(), nullptr};
     constexpr const char* kNoStartupId = "";
+    auto answered = [bus, file](GAsyncResult* result) {
+        if (GVariant* reply = g_dbus_connection_call_finish(bus.get(), result, nullptr)) {
+            g_variant_unref(reply);
+        } else {
+            openFolder(file);
+        }
+    };
     g_dbus_connection_call(bus.get(), "org.freedesktop.FileManager1", "/org/freedesktop/FileManager1",
                            "org.freedesktop.FileManager1", "ShowItems",
                            g_variant_new("(^ass)", uris.data(), kNoStartupId), nullptr, G_DBUS_CALL_FLAGS_NONE,
-                           kPatienceMilliseconds, nullptr, answered, file.release());
+                           kPatienceMilliseconds, nullptr, AsyncReply::call, AsyncReply::of(std::move(answered)));
 }
 
 } // namespace
@@ -81,7 +77,9 @@ bool DesktopWorkspace::open(const std::string& url)
 
 void DesktopWorkspace::activateFileViewer(const Path& file)
 {
-    g_bus_get(G_BUS_TYPE_SESSION, nullptr, connected, std::make_unique<Path>(file).release());
+    g_bus_get(G_BUS_TYPE_SESSION, nullptr, AsyncReply::call, AsyncReply::of([file](GAsyncResult* result) {
+                  showInFileManager(GObjectPtr<GDBusConnection>::adopt(g_bus_get_finish(result, nullptr)), file);
+              }));
 }
 
 } // namespace orken::desktop

@@ -1,8 +1,10 @@
 #include "linux/services/HttpLoad.h"
 
 #include "foundation/Url.h"
+#include "linux/loop/AsyncReply.h"
 #include "linux/services/TrustedAuthorities.h"
 
+#include <memory>
 #include <utility>
 
 namespace orken::desktop {
@@ -29,72 +31,72 @@ GObjectPtr<SoupMessage> makeMessage(const std::string& url)
 }
 
 /// Lives from its request to its answer.
-class HttpLoad {
+class HttpLoad : public std::enable_shared_from_this<HttpLoad> {
 public:
-    HttpLoad(std::string url, std::size_t maximumBodyBytes, GCancellable* cancellable,
+    HttpLoad(SoupSession* session, std::string url, std::size_t maximumBodyBytes, GCancellable* cancellable,
              std::function<void(HttpAnswer)> completion)
-        : url_(std::move(url)), maximumBodyBytes_(maximumBodyBytes),
+        : session_(GObjectPtr<SoupSession>::share(session)), url_(std::move(url)), maximumBodyBytes_(maximumBodyBytes),
           cancellable_(GObjectPtr<GCancellable>::share(cancellable)), completion_(std::move(completion))
     {
     }
 
-    static void start(std::unique_ptr<HttpLoad> load, SoupSession* session)
+    void start()
     {
-        load->message_ = makeMessage(load->url_);
-        if (!load->message_) {
-            load->fail(
-                *GErrorPtr(g_error_new_literal(G_URI_ERROR, G_URI_ERROR_FAILED, "not an http or https address")));
+        message_ = makeMessage(url_);
+        if (!message_) {
+            fail(*GErrorPtr(g_error_new_literal(G_URI_ERROR, G_URI_ERROR_FAILED, "not an http or https address")));
             return;
         }
-        SoupMessage* message = load->message_.get();
-        GCancellable* cancellable = load->cancellable_.get();
-        soup_session_send_async(session, message, G_PRIORITY_DEFAULT, cancellable, sent, load.release());
+        soup_session_send_async(session_.get(), message_.get(), G_PRIORITY_DEFAULT, cancellable_.get(),
+                                AsyncReply::call, replyTo(&HttpLoad::sent));
     }
 
 private:
-    static void sent(GObject* session, GAsyncResult* result, gpointer data)
+    /// The reply keeps this alive.
+    gpointer replyTo(void (HttpLoad::*step)(GAsyncResult*))
     {
-        std::unique_ptr<HttpLoad> load(static_cast<HttpLoad*>(data));
+        return AsyncReply::of([self = shared_from_this(), step](GAsyncResult* result) { (self.get()->*step)(result); });
+    }
+
+    void sent(GAsyncResult* result)
+    {
         GError* error = nullptr;
-        load->stream_ =
-            GObjectPtr<GInputStream>::adopt(soup_session_send_finish(SOUP_SESSION(session), result, &error));
-        if (!load->stream_) {
-            load->fail(*GErrorPtr(error));
-            return;
+        stream_ = GObjectPtr<GInputStream>::adopt(soup_session_send_finish(session_.get(), result, &error));
+        if (stream_) {
+            readOn();
+        } else {
+            fail(*GErrorPtr(error));
         }
-        readOn(std::move(load));
     }
 
     /// Chunk by chunk: a body that is too large is given up before it fills the memory.
-    static void readOn(std::unique_ptr<HttpLoad> load)
+    void readOn()
     {
-        GInputStream* stream = load->stream_.get();
-        GCancellable* cancellable = load->cancellable_.get();
-        g_input_stream_read_bytes_async(stream, kChunkBytes, G_PRIORITY_DEFAULT, cancellable, read, load.release());
+        g_input_stream_read_bytes_async(stream_.get(), kChunkBytes, G_PRIORITY_DEFAULT, cancellable_.get(),
+                                        AsyncReply::call, replyTo(&HttpLoad::read));
     }
 
-    static void read(GObject* stream, GAsyncResult* result, gpointer data)
+    void read(GAsyncResult* result)
     {
-        std::unique_ptr<HttpLoad> load(static_cast<HttpLoad*>(data));
         GError* error = nullptr;
-        GBytes* chunk = g_input_stream_read_bytes_finish(G_INPUT_STREAM(stream), result, &error);
+        GBytes* chunk = g_input_stream_read_bytes_finish(stream_.get(), result, &error);
         if (!chunk) {
-            load->fail(*GErrorPtr(error));
+            fail(*GErrorPtr(error));
             return;
         }
         gsize size = 0;
         const auto* bytes = static_cast<const std::uint8_t*>(g_bytes_get_data(chunk, &size));
-        const bool fits = size <= load->maximumBodyBytes_ - load->body_.size();
+        const bool fits = size <= maximumBodyBytes_ - body_.size();
         if (fits) {
-            load->body_.insert(load->body_.end(), bytes, bytes + size);
+            body_.insert(body_.end(), bytes, bytes + size);
         }
         g_bytes_unref(chunk);
         if (!fits) {
-            load->fail(*GErrorPtr(g_error_new_literal(G_IO_ERROR, G_IO_ERROR_NO_SPACE, "the answer is too large")));
+            fail(*GErrorPtr(g_error_new_literal(G_IO_ERROR, G_IO_ERROR_NO_SPACE, "the answer is too large")));
         } else if (size > 0) {
-            readOn(std::move(load));
+            readOn();
         } else {
-            load->succeed();
+            succeed();
         }
     }
 
@@ -124,6 +126,7 @@ private:
         completion_(std::move(answer));
     }
 
+    GObjectPtr<SoupSession> session_;
     std::string url_;
     std::size_t maximumBodyBytes_;
     GObjectPtr<GCancellable> cancellable_;
@@ -146,7 +149,7 @@ GObjectPtr<SoupSession> makeHttpSession(const HttpOptions& options)
 void loadHttp(SoupSession* session, const std::string& url, std::size_t maximumBodyBytes, GCancellable* cancellable,
               std::function<void(HttpAnswer)> completion)
 {
-    HttpLoad::start(std::make_unique<HttpLoad>(url, maximumBodyBytes, cancellable, std::move(completion)), session);
+    std::make_shared<HttpLoad>(session, url, maximumBodyBytes, cancellable, std::move(completion))->start();
 }
 
 } // namespace orken::desktop

@@ -1,6 +1,6 @@
 #include "linux/services/LoopTimers.h"
 
-#include "linux/loop/LoopSource.h"
+#include "linux/loop/Source.h"
 #include "platform/TimerGrid.h"
 
 #include <algorithm>
@@ -31,9 +31,8 @@ public:
 
     static void start(const std::shared_ptr<LoopTimer>& timer)
     {
-        timer->source_ = makeTimedSource("timer", [timer] { timer->came(); });
+        timer->source_ = Source::timed([timer] { timer->becomeDue(); });
         timer->arm();
-        g_source_attach(timer->source_.get(), nullptr);
     }
 
     void fire() override
@@ -53,18 +52,17 @@ public:
 
     void arm()
     {
-        if (source_) {
-            g_source_set_ready_time(source_.get(),
-                                    static_cast<gint64>(std::ceil(grid_.next().count() * G_USEC_PER_SEC)));
+        if (source_.isPending()) {
+            source_.setReadyTime(static_cast<gint64>(std::ceil(grid_.next().count() * G_USEC_PER_SEC)));
         }
     }
 
 private:
-    void came()
+    void becomeDue()
     {
         if (alerts_.depth() > 0) {
             // Stays due; the end of the alerts arms it again.
-            g_source_set_ready_time(source_.get(), -1);
+            source_.setReadyTime(-1);
             return;
         }
         // The clock and the grid may differ by a rounding.
@@ -76,7 +74,7 @@ private:
     const AlertStack& alerts_;
     TimerGrid grid_;
     std::shared_ptr<std::function<void()>> block_;
-    SourcePtr source_;
+    Source source_;
 };
 
 std::shared_ptr<Timer> LoopTimers::scheduleRepeating(Seconds interval, std::function<void()> block)

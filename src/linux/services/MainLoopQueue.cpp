@@ -15,10 +15,7 @@ bool isDue(gint64 moment)
 
 } // namespace
 
-MainLoopQueue::MainLoopQueue(GMainContext* context) : source_(makeTimedSource("queue", [this] { runNext(); }))
-{
-    g_source_attach(source_.get(), context);
-}
+MainLoopQueue::MainLoopQueue(GMainContext* context) : source_(Source::timed([this] { runNext(); }, context)) {}
 
 void MainLoopQueue::async(std::function<void()> item)
 {
@@ -32,7 +29,7 @@ void MainLoopQueue::after(Seconds delay, std::function<void()> item)
 
 void MainLoopQueue::stop()
 {
-    g_source_destroy(source_.get());
+    source_.end();
 }
 
 void MainLoopQueue::enter(gint64 delay, std::function<void()> item)
@@ -51,7 +48,7 @@ void MainLoopQueue::arm()
     if (!items_.empty()) {
         next = isDue(items_.begin()->first) ? kAtOnce : items_.begin()->first;
     }
-    g_source_set_ready_time(source_.get(), next);
+    source_.setReadyTime(next);
 }
 
 void MainLoopQueue::runNext()

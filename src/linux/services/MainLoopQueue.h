@@ -1,6 +1,6 @@
 #pragma once
 
-#include "linux/loop/LoopSource.h"
+#include "linux/loop/Source.h"
 #include "platform/MainQueue.h"
 
 #include <map>
@@ -32,7 +32,7 @@ private:
     std::mutex mutex_;
     /// By the moment of entering, in microseconds of the monotonic clock; equal moments keep the order of their calls.
     std::multimap<gint64, std::function<void()>> items_;
-    SourcePtr source_;
+    Source source_;
 };
 
 } // namespace orken::desktop
