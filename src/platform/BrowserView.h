@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
 #include "platform/NavigationDelegate.h"
 #include "platform/ScriptValue.h"
 #include "platform/Seconds.h"
@@ -30,11 +31,8 @@ struct UserScript {
 
 /// Settings of one browser view. What is set after a load call in the same turn of the main loop still holds for that
 /// load. Main thread only.
-class BrowserConfiguration {
+class BrowserConfiguration : NonCopyable {
 public:
-    BrowserConfiguration() = default;
-    BrowserConfiguration(const BrowserConfiguration&) = delete;
-    BrowserConfiguration& operator=(const BrowserConfiguration&) = delete;
     virtual ~BrowserConfiguration() = default;
 
     virtual void setCustomUserAgent(const std::string& userAgent) = 0;
@@ -72,11 +70,8 @@ public:
     virtual void callAsyncJavaScript(const std::string& functionBody, ScriptCompletion completion) = 0;
 };
 
-class BrowserViews {
+class BrowserViews : NonCopyable {
 public:
-    BrowserViews() = default;
-    BrowserViews(const BrowserViews&) = delete;
-    BrowserViews& operator=(const BrowserViews&) = delete;
     virtual ~BrowserViews() = default;
 
     /// A new view without a page; never null. Main thread only.

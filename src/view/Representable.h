@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
+
 #include <memory>
 #include <type_traits>
 #include <utility>
@@ -8,11 +10,8 @@ namespace orken {
 
 /// A native view of a platform, opaque to everything above the ports. The browser view and the animation view derive
 /// from it; a platform's view host knows how to put its own ones on the screen.
-class PlatformView {
+class PlatformView : NonCopyable {
 public:
-    PlatformView() = default;
-    PlatformView(const PlatformView&) = delete;
-    PlatformView& operator=(const PlatformView&) = delete;
     virtual ~PlatformView() = default;
 
     /// The platform's own object behind the view; only the platform that made the view knows its type.
@@ -29,11 +28,8 @@ struct RepresentableContext {
 struct NoCoordinator {};
 
 /// A representable at its place in the tree: made once, updated on every redraw of the view that holds it.
-class Representation {
+class Representation : NonCopyable {
 public:
-    Representation() = default;
-    Representation(const Representation&) = delete;
-    Representation& operator=(const Representation&) = delete;
     virtual ~Representation() = default;
 
     /// The native view, the same object for the whole life of this representation.
