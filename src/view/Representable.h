@@ -8,14 +8,20 @@
 
 namespace orken {
 
+/// The platform's own object behind a native view: its type derives from this, and the platform alone casts back to it.
+class NativeHandle {
+protected:
+    ~NativeHandle() = default;
+};
+
 /// A native view of a platform, opaque to everything above the ports. The browser view and the animation view derive
 /// from it; a platform's view host knows how to put its own ones on the screen.
 class PlatformView : NonCopyable {
 public:
     virtual ~PlatformView() = default;
 
-    /// The platform's own object behind the view; only the platform that made the view knows its type.
-    [[nodiscard]] virtual void* native() = 0;
+    /// Lives as long as the view; null for a view that its platform needs to know nothing of.
+    [[nodiscard]] virtual NativeHandle* native() = 0;
 };
 
 /// What lives as long as a representable's place in the tree.

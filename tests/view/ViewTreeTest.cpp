@@ -152,7 +152,7 @@ TEST(ViewTree, aNestedViewIsMadeOnceKeepsItsStateAndGetsTheNewestValue)
 }
 
 struct Native final : PlatformView {
-    [[nodiscard]] void* native() override { return nullptr; }
+    [[nodiscard]] NativeHandle* native() override { return nullptr; }
 };
 
 class Bridge {
