@@ -38,8 +38,6 @@ void Element::wrap()
 {
     Element inner = std::move(*this);
     *this = Element(LayersContent{});
-    // The place belongs to the outermost element.
-    std::swap(key_, inner.key_);
     children_.push_back(std::move(inner));
 }
 
@@ -158,12 +156,6 @@ Element Element::announcement(std::string text) &&
     return std::move(*this);
 }
 
-Element Element::key(std::string key) &&
-{
-    key_ = std::move(key);
-    return std::move(*this);
-}
-
 Element Element::onAppear(std::function<void()> action) &&
 {
     handlers_.onAppear.push_back(std::move(action));
@@ -190,7 +182,7 @@ Element Element::alert(State<bool> isPresented, AlertDescription description) &&
 
 bool sameIdentity(const Element& left, const Element& right)
 {
-    if (left.identity() != right.identity() || left.content().index() != right.content().index() ||
+    if (left.content().index() != right.content().index() ||
         left.modifiers().needsBox() != right.modifiers().needsBox() ||
         left.modifiers().announcement.has_value() != right.modifiers().announcement.has_value()) {
         return false;

@@ -51,7 +51,7 @@ struct AlertDescription {
 };
 
 /// A description of something on the screen. Elements are values: they are made anew on every redraw and compared with
-/// the ones before. An element keeps its identity by its place among its siblings, its type and its key.
+/// the ones before. An element keeps its identity by its place among its siblings and its type.
 class Element {
 public:
     Element() = default;
@@ -78,7 +78,6 @@ public:
     [[nodiscard]] Element disabled(bool disabled) &&;
     /// A screen reader says the text, unasked, when the element comes into sight.
     [[nodiscard]] Element announcement(std::string text) &&;
-    [[nodiscard]] Element key(std::string key) &&;
 
     /// Runs each time the element has come onto the screen, children before parents; not before the first frame of its
     /// window, so that what holds up the main thread never holds a window back.
@@ -99,8 +98,6 @@ public:
 
     [[nodiscard]] Handlers& handlers() { return handlers_; }
 
-    [[nodiscard]] const std::optional<std::string>& identity() const { return key_; }
-
     [[nodiscard]] const std::vector<Element>& children() const { return children_; }
 
     [[nodiscard]] std::vector<Element> takeChildren() { return std::move(children_); }
@@ -117,12 +114,11 @@ private:
     Content content_;
     Modifiers modifiers_;
     Handlers handlers_;
-    std::optional<std::string> key_;
     std::vector<Element> children_;
 };
 
-/// Same type and key, so that at the same place it is the same thing on the screen. An element with a box and one
-/// without are different things.
+/// Same type, so that at the same place it is the same thing on the screen. An element with a box and one without are
+/// different things.
 [[nodiscard]] bool sameIdentity(const Element& left, const Element& right);
 
 /// Nothing to do for the toolkit between the two.

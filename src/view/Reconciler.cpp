@@ -1,25 +1,14 @@
 #include "view/Reconciler.h"
 
-#include <algorithm>
-#include <set>
-
 namespace orken {
 
 namespace {
 
-/// What stood at the place of `element`: the first child with its key that no sibling has taken, or without a key the
-/// one at the same position.
-RenderNodePtr predecessor(const Element& element, std::size_t position, const std::vector<RenderNodePtr>& old,
-                          const std::set<NodeId>& taken)
+/// What stood at the place of `element`; null where that was another thing.
+RenderNodePtr predecessor(const Element& element, std::size_t place, const std::vector<RenderNodePtr>& siblings)
 {
-    if (!element.identity()) {
-        const bool same = position < old.size() && sameIdentity(element, old[position]->element);
-        return same ? old[position] : nullptr;
-    }
-    const auto found = std::find_if(old.begin(), old.end(), [&](const RenderNodePtr& node) {
-        return !taken.contains(node->id) && sameIdentity(element, node->element);
-    });
-    return found == old.end() ? nullptr : *found;
+    const bool same = place < siblings.size() && sameIdentity(element, siblings[place]->element);
+    return same ? siblings[place] : nullptr;
 }
 
 } // namespace
@@ -75,13 +64,9 @@ std::vector<RenderNodePtr> Reconciler::placeChildren(std::vector<Element> elemen
 {
     std::vector<RenderNodePtr> nodes;
     nodes.reserve(elements.size());
-    std::set<NodeId> taken;
-    for (std::size_t position = 0; position < elements.size(); ++position) {
-        const auto before = old ? predecessor(elements[position], position, old->children, taken) : nullptr;
-        if (before) {
-            taken.insert(before->id);
-        }
-        nodes.push_back(place(std::move(elements[position]), before));
+    for (std::size_t i = 0; i < elements.size(); ++i) {
+        const auto before = old ? predecessor(elements[i], i, old->children) : nullptr;
+        nodes.push_back(place(std::move(elements[i]), before));
     }
     return nodes;
 }
@@ -121,13 +106,8 @@ RenderNodePtr Reconciler::refresh(const RenderNodePtr& node)
             return node;
         }
     }
-    auto refreshed = std::make_shared<RenderNode>();
-    refreshed->id = node->id;
-    refreshed->element = node->element;
+    auto refreshed = std::make_shared<RenderNode>(*node);
     refreshed->children = std::move(children);
-    refreshed->view = node->view;
-    refreshed->representation = node->representation;
-    refreshed->receptions = node->receptions;
     return refreshed;
 }
 

@@ -24,24 +24,6 @@ TEST(ViewTree, aConditionKeepsItsPlaceSoNeighboursStayWhatTheyAre)
     }
 }
 
-TEST(ViewTree, keysFollowTheirElementsToOtherPlaces)
-{
-    Lines order{"a", "b", "c"};
-    Screen screen([&] {
-        std::vector<Element> children;
-        for (const auto& one : order) {
-            children.push_back(Text(one).key(one));
-        }
-        return VStack(std::move(children));
-    });
-    const auto a = screen.host.idOf("a");
-    const auto c = screen.host.idOf("c");
-    order = {"c", "new", "a"};
-    screen.redraw();
-    EXPECT_EQ(screen.host.idOf("a"), a);
-    EXPECT_EQ(screen.host.idOf("c"), c);
-}
-
 TEST(ViewTree, appearActionsRunAfterTheFrameChildrenBeforeParents)
 {
     Lines log;
