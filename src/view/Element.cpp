@@ -2,6 +2,8 @@
 
 #include "view/View.h"
 
+#include <cassert>
+
 namespace orken {
 
 namespace {
@@ -177,6 +179,13 @@ Element Element::alert(State<bool> isPresented, AlertDescription description) &&
             buttons[button].action();
         }
     };
+    return std::move(*this);
+}
+
+Element Element::onReceive(std::shared_ptr<Subject<>> subject, std::function<void()> handler) &&
+{
+    assert(!handlers_.receiver);
+    handlers_.receiver = Receiver{.subject = std::move(subject), .handler = std::move(handler)};
     return std::move(*this);
 }
 

@@ -9,28 +9,23 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <tuple>
 #include <vector>
 
 namespace orken {
 
 class View;
 
-/// A subscription that an element asks for while it is in the tree. The arguments travel as a tuple of references.
+/// A subscription that an element asks for while it is in the tree.
 struct Receiver {
-    using Deliver = std::function<void(const void* arguments)>;
-
-    const void* source = nullptr;
-    Deliver deliver;
-    /// The slot holds the handler of the newest element at this place.
-    std::function<Subscription(std::shared_ptr<Deliver> slot)> subscribe;
+    std::shared_ptr<Subject<>> subject;
+    std::function<void()> handler;
 };
 
 struct Handlers {
     std::function<void()> action;
     std::vector<std::function<void()>> onAppear;
     std::function<void(std::size_t button)> onAlertAnswer;
-    std::vector<Receiver> receivers;
+    std::optional<Receiver> receiver;
     std::function<std::unique_ptr<View>()> makeView;
     std::function<void(View&)> updateView;
     std::function<std::unique_ptr<Representation>()> makeRepresentation;
@@ -85,10 +80,9 @@ public:
     /// Shows the alert while the cell is true. An answer sets the cell to false, then runs the button's action.
     [[nodiscard]] Element alert(State<bool> isPresented, AlertDescription description) &&;
 
-    /// Receives what the subject sends while the element is in the tree. Another subject at the same place replaces the
-    /// subscription; the same subject keeps it and calls the newest handler.
-    template <class... Args>
-    [[nodiscard]] Element onReceive(std::shared_ptr<Subject<Args...>> subject, std::function<void(Args...)> handler) &&;
+    /// Calls the handler for what the subject sends while the element is in the tree. Another subject at the same place
+    /// replaces the subscription; the same subject keeps it and calls the newest handler. Once for an element.
+    [[nodiscard]] Element onReceive(std::shared_ptr<Subject<>> subject, std::function<void()> handler) &&;
 
     [[nodiscard]] const Content& content() const { return content_; }
 
@@ -166,25 +160,6 @@ template <class R>
         };
     }
     return element;
-}
-
-template <class... Args>
-Element Element::onReceive(std::shared_ptr<Subject<Args...>> subject, std::function<void(Args...)> handler) &&
-{
-    Receiver receiver;
-    receiver.source = subject.get();
-    receiver.deliver = [handler = std::move(handler)](const void* arguments) {
-        std::apply(handler, *static_cast<const std::tuple<Args&...>*>(arguments));
-    };
-    receiver.subscribe = [subject](std::shared_ptr<Receiver::Deliver> slot) {
-        return subject->subscribe([slot = std::move(slot)](Args... args) {
-            const std::tuple<Args&...> arguments(args...);
-            const Receiver::Deliver deliver = *slot; // a redraw inside the handler replaces the slot's content
-            deliver(&arguments);
-        });
-    };
-    handlers_.receivers.push_back(std::move(receiver));
-    return std::move(*this);
 }
 
 } // namespace orken

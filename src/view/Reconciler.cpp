@@ -11,6 +11,18 @@ RenderNodePtr predecessor(const Element& element, std::size_t place, const std::
     return same ? siblings[place] : nullptr;
 }
 
+std::shared_ptr<Reception> receive(const std::optional<Receiver>& wanted, std::shared_ptr<Reception> present)
+{
+    if (!wanted) {
+        return nullptr;
+    }
+    if (!present || !present->isFrom(wanted->subject)) {
+        return std::make_shared<Reception>(*wanted);
+    }
+    present->setHandler(wanted->handler);
+    return present;
+}
+
 } // namespace
 
 RenderNodePtr Reconciler::place(Element element, const RenderNodePtr& old)
@@ -23,7 +35,6 @@ RenderNodePtr Reconciler::place(Element element, const RenderNodePtr& old)
         node->id = old->id;
         node->view = old->view;
         node->representation = old->representation;
-        node->receptions = old->receptions;
     } else {
         node->id = ++lastId_;
     }
@@ -47,7 +58,7 @@ RenderNodePtr Reconciler::place(Element element, const RenderNodePtr& old)
         }
         node->children = placeChildren(std::move(children), old.get());
     }
-    receive(*node);
+    node->reception = receive(handlers.receiver, old ? old->reception : nullptr);
     return node;
 }
 
@@ -69,27 +80,6 @@ std::vector<RenderNodePtr> Reconciler::placeChildren(std::vector<Element> elemen
         nodes.push_back(place(std::move(elements[i]), before));
     }
     return nodes;
-}
-
-void Reconciler::receive(RenderNode& node)
-{
-    const auto& wanted = node.element.handlers().receivers;
-    if (wanted.empty() && !node.receptions) {
-        return;
-    }
-    if (!node.receptions) {
-        node.receptions = std::make_shared<std::vector<RenderNode::Reception>>();
-    }
-    auto& present = *node.receptions;
-    present.resize(wanted.size());
-    for (std::size_t i = 0; i < wanted.size(); ++i) {
-        if (present[i].slot && present[i].source == wanted[i].source) {
-            *present[i].slot = wanted[i].deliver;
-            continue;
-        }
-        auto slot = std::make_shared<Receiver::Deliver>(wanted[i].deliver);
-        present[i] = {.source = wanted[i].source, .slot = slot, .subscription = wanted[i].subscribe(slot)};
-    }
 }
 
 RenderNodePtr Reconciler::refresh(const RenderNodePtr& node)
