@@ -54,7 +54,7 @@ double median(std::vector<double> values)
 /// A page whose engine takes scripts and never answers.
 class SilentPage final : public BrowserView {
 public:
-    [[nodiscard]] void* native() override { return nullptr; }
+    [[nodiscard]] NativeHandle* native() override { return nullptr; }
 
     void setNavigationDelegate(std::weak_ptr<NavigationDelegate>) override {}
 
@@ -102,7 +102,7 @@ public:
     {
     }
 
-    [[nodiscard]] void* native() override { return surface_->native(); }
+    [[nodiscard]] NativeHandle* native() override { return surface_->native(); }
 
     [[nodiscard]] Size bounds() const override { return surface_->bounds(); }
 

@@ -24,7 +24,7 @@ class Page final : public BrowserView {
 public:
     explicit Page(int& scripts) : scripts_(scripts) {}
 
-    [[nodiscard]] void* native() override { return nullptr; }
+    [[nodiscard]] NativeHandle* native() override { return nullptr; }
 
     void setNavigationDelegate(std::weak_ptr<NavigationDelegate>) override {}
 

@@ -36,7 +36,7 @@ public:
     /// Null before `load`.
     [[nodiscard]] const std::shared_ptr<LottieAnimationView>& animationView() const { return animationView_; }
 
-    [[nodiscard]] void* native() override { return surface_->native(); }
+    [[nodiscard]] NativeHandle* native() override { return surface_->native(); }
 
 private:
     LUView(Size frame, const AnimationServices& services);

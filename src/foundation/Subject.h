@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
+
 #include <cstddef>
 #include <functional>
 #include <memory>
@@ -49,13 +51,9 @@ private:
 /// completes. A subscriber may send, subscribe, cancel anybody and destroy the subject, whose last send then still
 /// reaches the others; one that subscribes during a send gets the next one. One thread only.
 template <class... Args>
-class Subject {
+class Subject : NonCopyable {
 public:
     using Handler = std::function<void(Args...)>;
-
-    Subject() = default;
-    Subject(const Subject&) = delete;
-    Subject& operator=(const Subject&) = delete;
 
     [[nodiscard]] Subscription subscribe(Handler handler)
     {

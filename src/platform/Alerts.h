@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
+
 #include <string>
 #include <vector>
 
@@ -22,11 +24,8 @@ struct Alert {
 };
 
 /// Application-modal alerts. Main thread only.
-class Alerts {
+class Alerts : NonCopyable {
 public:
-    Alerts() = default;
-    Alerts(const Alerts&) = delete;
-    Alerts& operator=(const Alerts&) = delete;
     virtual ~Alerts() = default;
 
     /// Shows the alert and waits for the answer in a nested main loop. Texts are plain, never markup. Alerts nest: an

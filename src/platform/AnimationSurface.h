@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
 #include "platform/Seconds.h"
 #include "view/Geometry.h"
 #include "view/Representable.h"
@@ -61,11 +62,8 @@ public:
     virtual void setFrameTick(FrameTick tick) = 0;
 };
 
-class AnimationSurfaces {
+class AnimationSurfaces : NonCopyable {
 public:
-    AnimationSurfaces() = default;
-    AnimationSurfaces(const AnimationSurfaces&) = delete;
-    AnimationSurfaces& operator=(const AnimationSurfaces&) = delete;
     virtual ~AnimationSurfaces() = default;
 
     /// A new, empty surface of this size; never null. Main thread only.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
 #include "view/View.h"
 
 #include <functional>
@@ -8,11 +9,8 @@
 
 namespace orken {
 
-class ApplicationDelegate {
+class ApplicationDelegate : NonCopyable {
 public:
-    ApplicationDelegate() = default;
-    ApplicationDelegate(const ApplicationDelegate&) = delete;
-    ApplicationDelegate& operator=(const ApplicationDelegate&) = delete;
     virtual ~ApplicationDelegate() = default;
 
     /// Once, on the main thread, before the process ends. No product code runs after it.
@@ -26,11 +24,8 @@ struct WindowGroup {
 };
 
 /// The application's life. Main thread only.
-class Application {
+class Application : NonCopyable {
 public:
-    Application() = default;
-    Application(const Application&) = delete;
-    Application& operator=(const Application&) = delete;
     virtual ~Application() = default;
 
     /// Opens one window of the group and serves the main loop until the application terminates. Returns the process's

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
 #include "platform/NavigationDelegate.h"
 #include "platform/ScriptValue.h"
 #include "platform/Seconds.h"
@@ -75,11 +76,8 @@ public:
     virtual void callAsyncJavaScript(const std::string& functionBody, ScriptCompletion completion) = 0;
 };
 
-class BrowserViews {
+class BrowserViews : NonCopyable {
 public:
-    BrowserViews() = default;
-    BrowserViews(const BrowserViews&) = delete;
-    BrowserViews& operator=(const BrowserViews&) = delete;
     virtual ~BrowserViews() = default;
 
     /// A new view without a page; never null. Main thread only.

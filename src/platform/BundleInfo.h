@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
+
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -13,11 +15,8 @@ inline constexpr const char* kBundleShortVersionKey = "CFBundleShortVersionStrin
 using InfoValue = std::variant<std::monostate, std::string, double>;
 
 /// The information table of the running bundle. Any thread.
-class BundleInfo {
+class BundleInfo : NonCopyable {
 public:
-    BundleInfo() = default;
-    BundleInfo(const BundleInfo&) = delete;
-    BundleInfo& operator=(const BundleInfo&) = delete;
     virtual ~BundleInfo() = default;
 
     [[nodiscard]] virtual InfoValue infoValue(const std::string& key) const = 0;

@@ -1,15 +1,14 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
+
 #include <chrono>
 
 namespace orken {
 
 /// The time of day. Any thread.
-class Clock {
+class Clock : NonCopyable {
 public:
-    Clock() = default;
-    Clock(const Clock&) = delete;
-    Clock& operator=(const Clock&) = delete;
     virtual ~Clock() = default;
 
     [[nodiscard]] virtual std::chrono::system_clock::time_point now() const = 0;

@@ -1,16 +1,15 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
+
 #include <string_view>
 
 namespace orken {
 
 /// The client's diagnostic lines. Any thread; a line is never torn by another one and is written before the call
 /// returns.
-class Console {
+class Console : NonCopyable {
 public:
-    Console() = default;
-    Console(const Console&) = delete;
-    Console& operator=(const Console&) = delete;
     virtual ~Console() = default;
 
     /// One line on standard output: the text as it is, UTF-8, and a line feed. Nothing else goes there.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
 #include "foundation/Outcome.h"
 
 #include <string>
@@ -7,11 +8,8 @@
 namespace orken {
 
 /// The blocking read of an address's whole contents as text. Main thread only.
-class ContentsReader {
+class ContentsReader : NonCopyable {
 public:
-    ContentsReader() = default;
-    ContentsReader(const ContentsReader&) = delete;
-    ContentsReader& operator=(const ContentsReader&) = delete;
     virtual ~ContentsReader() = default;
 
     /// A plain GET; the status code is not examined, the body's encoding is detected, 60 s without traffic are an

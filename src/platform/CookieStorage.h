@@ -1,13 +1,12 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
+
 namespace orken {
 
 /// The cookies of the URL session; the web engine's own are website data. Main thread only.
-class CookieStorage {
+class CookieStorage : NonCopyable {
 public:
-    CookieStorage() = default;
-    CookieStorage(const CookieStorage&) = delete;
-    CookieStorage& operator=(const CookieStorage&) = delete;
     virtual ~CookieStorage() = default;
 
     /// All of them are gone when this returns.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/Bytes.h"
+#include "foundation/NonCopyable.h"
 #include "foundation/Outcome.h"
 
 #include <filesystem>
@@ -10,11 +11,8 @@
 namespace orken {
 
 /// The machine's files. Main thread only.
-class Files {
+class Files : NonCopyable {
 public:
-    Files() = default;
-    Files(const Files&) = delete;
-    Files& operator=(const Files&) = delete;
     virtual ~Files() = default;
 
     /// The user's home directory, absolute.

@@ -1,16 +1,15 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
+
 #include <optional>
 #include <string>
 
 namespace orken {
 
 /// What identifies the machine. Any thread; asked anew on every call.
-class HardwareRegistry {
+class HardwareRegistry : NonCopyable {
 public:
-    HardwareRegistry() = default;
-    HardwareRegistry(const HardwareRegistry&) = delete;
-    HardwareRegistry& operator=(const HardwareRegistry&) = delete;
     virtual ~HardwareRegistry() = default;
 
     /// The platform's serial text as it is stored, with its line end; absent when the machine has none or it is not

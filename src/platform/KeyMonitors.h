@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
+
 #include <algorithm>
 #include <functional>
 #include <memory>
@@ -21,13 +23,9 @@ enum class KeyHandling { passOn, swallow };
 
 /// The application's local event monitors for key-downs. A desktop asks them about every key-down that goes to any
 /// window of the application, also under an alert, before anything else sees it. Main thread only.
-class KeyMonitors {
+class KeyMonitors : NonCopyable {
 public:
     using Monitor = std::function<KeyHandling(const KeyEvent&)>;
-
-    KeyMonitors() = default;
-    KeyMonitors(const KeyMonitors&) = delete;
-    KeyMonitors& operator=(const KeyMonitors&) = delete;
 
     /// Stays to the end of the process. Each call adds another one.
     void add(Monitor monitor) { monitors_.push_back(std::make_shared<const Monitor>(std::move(monitor))); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
 #include "platform/Seconds.h"
 
 #include <functional>
@@ -7,11 +8,8 @@
 namespace orken {
 
 /// Serial queue of the main thread, first in, first out. Both operations may be called on any thread.
-class MainQueue {
+class MainQueue : NonCopyable {
 public:
-    MainQueue() = default;
-    MainQueue(const MainQueue&) = delete;
-    MainQueue& operator=(const MainQueue&) = delete;
     virtual ~MainQueue() = default;
 
     /// Never runs inline. What is posted during an item runs after it; while an item itself shows a modal alert, the

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
 #include "foundation/PlatformError.h"
 
 #include <functional>
@@ -19,11 +20,8 @@ struct NavigationAction {
 };
 
 /// The certificate chains that servers show.
-class ServerTrust {
+class ServerTrust : NonCopyable {
 public:
-    ServerTrust() = default;
-    ServerTrust(const ServerTrust&) = delete;
-    ServerTrust& operator=(const ServerTrust&) = delete;
     virtual ~ServerTrust() = default;
 
     /// Accepts what a chain fails in, as if it did not.
@@ -39,11 +37,8 @@ enum class ChallengeDisposition { useCredential, cancelAuthenticationChallenge }
 
 /// What a browser view asks and reports; all of it on the main thread. Each decision handler is called exactly once,
 /// now or later, on the main thread.
-class NavigationDelegate {
+class NavigationDelegate : NonCopyable {
 public:
-    NavigationDelegate() = default;
-    NavigationDelegate(const NavigationDelegate&) = delete;
-    NavigationDelegate& operator=(const NavigationDelegate&) = delete;
     virtual ~NavigationDelegate() = default;
 
     virtual void didFailNavigation(BrowserView& view, const PlatformError& error) = 0;

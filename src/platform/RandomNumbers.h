@@ -1,13 +1,12 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
+
 namespace orken {
 
 /// The system's random numbers. Any thread.
-class RandomNumbers {
+class RandomNumbers : NonCopyable {
 public:
-    RandomNumbers() = default;
-    RandomNumbers(const RandomNumbers&) = delete;
-    RandomNumbers& operator=(const RandomNumbers&) = delete;
     virtual ~RandomNumbers() = default;
 
     /// Uniformly from the closed range; `low` is not above `high`.

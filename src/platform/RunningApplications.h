@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
+
 #include <memory>
 #include <optional>
 #include <string>
@@ -20,11 +22,8 @@ struct RunningApplication {
 };
 
 /// What runs beside the client. Main thread only.
-class RunningApplications {
+class RunningApplications : NonCopyable {
 public:
-    RunningApplications() = default;
-    RunningApplications(const RunningApplications&) = delete;
-    RunningApplications& operator=(const RunningApplications&) = delete;
     virtual ~RunningApplications() = default;
 
     /// Made anew on every call, in the desktop's order; the client is in it when it has a window. Never in it: what the

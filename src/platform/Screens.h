@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
 #include "view/Geometry.h"
 
 #include <optional>
@@ -7,11 +8,8 @@
 namespace orken {
 
 /// Main thread only.
-class Screens {
+class Screens : NonCopyable {
 public:
-    Screens() = default;
-    Screens(const Screens&) = delete;
-    Screens& operator=(const Screens&) = delete;
     virtual ~Screens() = default;
 
     /// The screen with the key window, else the first one, in points; absent when there is none.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
 #include "platform/Seconds.h"
 
 #include <functional>
@@ -9,11 +10,8 @@ namespace orken {
 
 /// A repeating timer of the main loop. The loop keeps it alive: dropping the last handle does not stop it. Main thread
 /// only.
-class Timer {
+class Timer : NonCopyable {
 public:
-    Timer() = default;
-    Timer(const Timer&) = delete;
-    Timer& operator=(const Timer&) = delete;
     virtual ~Timer() = default;
 
     /// Runs the block now and leaves the schedule alone; does nothing after `invalidate`.
@@ -23,11 +21,8 @@ public:
     virtual void invalidate() = 0;
 };
 
-class Timers {
+class Timers : NonCopyable {
 public:
-    Timers() = default;
-    Timers(const Timers&) = delete;
-    Timers& operator=(const Timers&) = delete;
     virtual ~Timers() = default;
 
     /// First fires one interval from now, then on that grid; late fires are merged into one. Timers stand still while

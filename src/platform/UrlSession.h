@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/Bytes.h"
+#include "foundation/NonCopyable.h"
 #include "foundation/PlatformError.h"
 
 #include <functional>
@@ -23,11 +24,8 @@ struct DataTaskResult {
 };
 
 /// The shared URL session: plain GET, redirects followed, 60 s without traffic are an error, certificates are checked.
-class UrlSession {
+class UrlSession : NonCopyable {
 public:
-    UrlSession() = default;
-    UrlSession(const UrlSession&) = delete;
-    UrlSession& operator=(const UrlSession&) = delete;
     virtual ~UrlSession() = default;
 
     /// Starts a request; any thread. The completion runs exactly once on the background queue, where completions run

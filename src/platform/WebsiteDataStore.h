@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
+
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -21,11 +23,8 @@ struct WebsiteDataRecord {
 };
 
 /// The web engine's data: cookies, caches, databases. Main thread only; completions come there, never inline.
-class WebsiteDataStore {
+class WebsiteDataStore : NonCopyable {
 public:
-    WebsiteDataStore() = default;
-    WebsiteDataStore(const WebsiteDataStore&) = delete;
-    WebsiteDataStore& operator=(const WebsiteDataStore&) = delete;
     virtual ~WebsiteDataStore() = default;
 
     /// The list is empty when the engine cannot tell.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
 #include "view/Geometry.h"
 #include "view/View.h"
 
@@ -22,11 +23,8 @@ inline constexpr WindowStyleMask kFullScreen = 1U << 14U;
 } // namespace windowStyle
 
 /// A window of this application; equality is identity. Main thread only.
-class Window {
+class Window : NonCopyable {
 public:
-    Window() = default;
-    Window(const Window&) = delete;
-    Window& operator=(const Window&) = delete;
     virtual ~Window() = default;
 
     /// False for hidden, closed and minimised windows.

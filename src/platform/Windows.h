@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
 #include "platform/Window.h"
 
 #include <memory>
@@ -8,11 +9,8 @@
 namespace orken {
 
 /// Windows of this application. Main thread only, once the application runs.
-class Windows {
+class Windows : NonCopyable {
 public:
-    Windows() = default;
-    Windows(const Windows&) = delete;
-    Windows& operator=(const Windows&) = delete;
     virtual ~Windows() = default;
 
     /// Every window, visible or not: the application's own in order of creation, then the toolkit's, then the alert

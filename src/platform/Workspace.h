@@ -1,16 +1,15 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
+
 #include <filesystem>
 #include <string>
 
 namespace orken {
 
 /// What the desktop does for an application outside of its windows. Main thread only.
-class Workspace {
+class Workspace : NonCopyable {
 public:
-    Workspace() = default;
-    Workspace(const Workspace&) = delete;
-    Workspace& operator=(const Workspace&) = delete;
     virtual ~Workspace() = default;
 
     /// Hands an address to the program that the user has chosen for it, the browser for https. It has been handed over

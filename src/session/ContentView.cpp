@@ -24,7 +24,7 @@ Element ContentView::body()
             .frame({.minWidth = kMinimumWidth, .minHeight = kMinimumHeight})
             .onAppear([this] { sessionScreenAppeared(); })
             .onReceive(ports_.notifications.publisher(NotificationName::applicationDidChangeScreenParameters),
-                       std::function<void()>(toggleLater));
+                       toggleLater);
     };
     return ZStack({When(ipAddress_.get().has_value(), sessionScreen)}).onAppear([this] { fetchAddress(); });
 }

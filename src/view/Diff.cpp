@@ -1,59 +1,45 @@
 #include "view/Diff.h"
 
-#include <algorithm>
-
 namespace orken {
 
 namespace {
 
-std::vector<RenderNodePtr> shown(const std::vector<RenderNodePtr>& nodes)
+/// Whether the toolkit has something for the node.
+bool isShown(const RenderNodePtr& node)
 {
-    std::vector<RenderNodePtr> result;
-    std::copy_if(nodes.begin(), nodes.end(), std::back_inserter(result),
-                 [](const RenderNodePtr& node) { return node && !node->element.isEmpty(); });
-    return result;
+    return node && !node->element.isEmpty();
 }
 
-RenderNodePtr find(const std::vector<RenderNodePtr>& nodes, NodeId id)
+/// The sibling at this place if it is the same thing as `node`; a node never moves among its siblings.
+RenderNodePtr sameAt(std::size_t place, const std::vector<RenderNodePtr>& siblings, const RenderNodePtr& node)
 {
-    const auto found = std::find_if(nodes.begin(), nodes.end(), [id](const auto& node) { return node->id == id; });
-    return found == nodes.end() ? nullptr : *found;
+    const bool same = place < siblings.size() && siblings[place] && siblings[place]->id == node->id;
+    return same ? siblings[place] : nullptr;
 }
 
 class Differ {
 public:
     Mutations take() { return std::move(mutations_); }
 
-    void children(NodeId parent, const std::vector<RenderNodePtr>& allBefore,
-                  const std::vector<RenderNodePtr>& allAfter)
+    void children(NodeId parent, const std::vector<RenderNodePtr>& before, const std::vector<RenderNodePtr>& after)
     {
-        const auto before = shown(allBefore);
-        const auto after = shown(allAfter);
-
-        std::vector<NodeId> order;
-        for (const RenderNodePtr& old : before) {
-            if (find(after, old->id)) {
-                order.push_back(old->id);
-            } else {
-                add(mutation::Remove{.parent = parent, .child = old->id});
-                remove(*old);
+        for (std::size_t place = 0; place < before.size(); ++place) {
+            if (isShown(before[place]) && !sameAt(place, after, before[place])) {
+                remove(parent, *before[place]);
             }
         }
-        for (std::size_t index = 0; index < after.size(); ++index) {
-            const RenderNodePtr& node = after[index];
-            const auto there = std::find(order.begin(), order.end(), node->id);
-            if (const RenderNodePtr old = find(before, node->id)) {
-                same(*node, old, node);
-                if (there == order.begin() + static_cast<std::ptrdiff_t>(index)) {
-                    continue;
-                }
-                add(mutation::Remove{.parent = parent, .child = node->id});
-                order.erase(there);
-            } else {
-                create(node);
+        std::size_t index = 0;
+        for (std::size_t place = 0; place < after.size(); ++place) {
+            if (!isShown(after[place])) {
+                continue;
             }
-            add(mutation::Insert{.parent = parent, .child = node->id, .index = index});
-            order.insert(order.begin() + static_cast<std::ptrdiff_t>(index), node->id);
+            if (const RenderNodePtr old = sameAt(place, before, after[place])) {
+                same(old, after[place]);
+            } else {
+                create(after[place]);
+                add(mutation::Insert{.parent = parent, .child = after[place]->id, .index = index});
+            }
+            ++index;
         }
     }
 
@@ -64,7 +50,7 @@ private:
         mutations_.emplace_back(std::move(step));
     }
 
-    void same(const RenderNode& node, const RenderNodePtr& before, const RenderNodePtr& after)
+    void same(const RenderNodePtr& before, const RenderNodePtr& after)
     {
         if (before == after) {
             return;
@@ -72,26 +58,31 @@ private:
         if (!sameAppearance(before->element, after->element)) {
             add(mutation::Update{.before = before, .after = after});
         }
-        children(node.id, before->children, after->children);
+        children(after->id, before->children, after->children);
     }
 
     void create(const RenderNodePtr& node)
     {
-        const auto inside = shown(node->children);
-        for (const RenderNodePtr& child : inside) {
-            create(child);
+        std::vector<NodeId> inside;
+        for (const RenderNodePtr& child : node->children) {
+            if (isShown(child)) {
+                create(child);
+                inside.push_back(child->id);
+            }
         }
         add(mutation::Create{.node = node});
         for (std::size_t index = 0; index < inside.size(); ++index) {
-            add(mutation::Insert{.parent = node->id, .child = inside[index]->id, .index = index});
+            add(mutation::Insert{.parent = node->id, .child = inside[index], .index = index});
         }
     }
 
-    void remove(const RenderNode& node)
+    void remove(NodeId parent, const RenderNode& node)
     {
-        for (const RenderNodePtr& child : shown(node.children)) {
-            add(mutation::Remove{.parent = node.id, .child = child->id});
-            remove(*child);
+        add(mutation::Remove{.parent = parent, .child = node.id});
+        for (const RenderNodePtr& child : node.children) {
+            if (isShown(child)) {
+                remove(node.id, *child);
+            }
         }
         add(mutation::Delete{.id = node.id});
     }

@@ -2,6 +2,8 @@
 
 #include "view/View.h"
 
+#include <cassert>
+
 namespace orken {
 
 namespace {
@@ -38,8 +40,6 @@ void Element::wrap()
 {
     Element inner = std::move(*this);
     *this = Element(LayersContent{});
-    // The place belongs to the outermost element.
-    std::swap(key_, inner.key_);
     children_.push_back(std::move(inner));
 }
 
@@ -158,12 +158,6 @@ Element Element::announcement(std::string text) &&
     return std::move(*this);
 }
 
-Element Element::key(std::string key) &&
-{
-    key_ = std::move(key);
-    return std::move(*this);
-}
-
 Element Element::onAppear(std::function<void()> action) &&
 {
     handlers_.onAppear.push_back(std::move(action));
@@ -188,9 +182,16 @@ Element Element::alert(State<bool> isPresented, AlertDescription description) &&
     return std::move(*this);
 }
 
+Element Element::onReceive(std::shared_ptr<Subject<>> subject, std::function<void()> handler) &&
+{
+    assert(!handlers_.receiver);
+    handlers_.receiver = Receiver{.subject = std::move(subject), .handler = std::move(handler)};
+    return std::move(*this);
+}
+
 bool sameIdentity(const Element& left, const Element& right)
 {
-    if (left.identity() != right.identity() || left.content().index() != right.content().index() ||
+    if (left.content().index() != right.content().index() ||
         left.modifiers().needsBox() != right.modifiers().needsBox() ||
         left.modifiers().announcement.has_value() != right.modifiers().announcement.has_value()) {
         return false;

@@ -9,28 +9,23 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <tuple>
 #include <vector>
 
 namespace orken {
 
 class View;
 
-/// A subscription that an element asks for while it is in the tree. The arguments travel as a tuple of references.
+/// A subscription that an element asks for while it is in the tree.
 struct Receiver {
-    using Deliver = std::function<void(const void* arguments)>;
-
-    const void* source = nullptr;
-    Deliver deliver;
-    /// The slot holds the handler of the newest element at this place.
-    std::function<Subscription(std::shared_ptr<Deliver> slot)> subscribe;
+    std::shared_ptr<Subject<>> subject;
+    std::function<void()> handler;
 };
 
 struct Handlers {
     std::function<void()> action;
     std::vector<std::function<void()>> onAppear;
     std::function<void(std::size_t button)> onAlertAnswer;
-    std::vector<Receiver> receivers;
+    std::optional<Receiver> receiver;
     std::function<std::unique_ptr<View>()> makeView;
     std::function<void(View&)> updateView;
     std::function<std::unique_ptr<Representation>()> makeRepresentation;
@@ -51,7 +46,7 @@ struct AlertDescription {
 };
 
 /// A description of something on the screen. Elements are values: they are made anew on every redraw and compared with
-/// the ones before. An element keeps its identity by its place among its siblings, its type and its key.
+/// the ones before. An element keeps its identity by its place among its siblings and its type.
 class Element {
 public:
     Element() = default;
@@ -78,7 +73,6 @@ public:
     [[nodiscard]] Element disabled(bool disabled) &&;
     /// A screen reader says the text, unasked, when the element comes into sight.
     [[nodiscard]] Element announcement(std::string text) &&;
-    [[nodiscard]] Element key(std::string key) &&;
 
     /// Runs each time the element has come onto the screen, children before parents; not before the first frame of its
     /// window, so that what holds up the main thread never holds a window back.
@@ -86,10 +80,9 @@ public:
     /// Shows the alert while the cell is true. An answer sets the cell to false, then runs the button's action.
     [[nodiscard]] Element alert(State<bool> isPresented, AlertDescription description) &&;
 
-    /// Receives what the subject sends while the element is in the tree. Another subject at the same place replaces the
-    /// subscription; the same subject keeps it and calls the newest handler.
-    template <class... Args>
-    [[nodiscard]] Element onReceive(std::shared_ptr<Subject<Args...>> subject, std::function<void(Args...)> handler) &&;
+    /// Calls the handler for what the subject sends while the element is in the tree. Another subject at the same place
+    /// replaces the subscription; the same subject keeps it and calls the newest handler. Once for an element.
+    [[nodiscard]] Element onReceive(std::shared_ptr<Subject<>> subject, std::function<void()> handler) &&;
 
     [[nodiscard]] const Content& content() const { return content_; }
 
@@ -98,8 +91,6 @@ public:
     [[nodiscard]] const Handlers& handlers() const { return handlers_; }
 
     [[nodiscard]] Handlers& handlers() { return handlers_; }
-
-    [[nodiscard]] const std::optional<std::string>& identity() const { return key_; }
 
     [[nodiscard]] const std::vector<Element>& children() const { return children_; }
 
@@ -117,12 +108,11 @@ private:
     Content content_;
     Modifiers modifiers_;
     Handlers handlers_;
-    std::optional<std::string> key_;
     std::vector<Element> children_;
 };
 
-/// Same type and key, so that at the same place it is the same thing on the screen. An element with a box and one
-/// without are different things.
+/// Same type, so that at the same place it is the same thing on the screen. An element with a box and one without are
+/// different things.
 [[nodiscard]] bool sameIdentity(const Element& left, const Element& right);
 
 /// Nothing to do for the toolkit between the two.
@@ -170,25 +160,6 @@ template <class R>
         };
     }
     return element;
-}
-
-template <class... Args>
-Element Element::onReceive(std::shared_ptr<Subject<Args...>> subject, std::function<void(Args...)> handler) &&
-{
-    Receiver receiver;
-    receiver.source = subject.get();
-    receiver.deliver = [handler = std::move(handler)](const void* arguments) {
-        std::apply(handler, *static_cast<const std::tuple<Args&...>*>(arguments));
-    };
-    receiver.subscribe = [subject](std::shared_ptr<Receiver::Deliver> slot) {
-        return subject->subscribe([slot = std::move(slot)](Args... args) {
-            const std::tuple<Args&...> arguments(args...);
-            const Receiver::Deliver deliver = *slot; // a redraw inside the handler replaces the slot's content
-            deliver(&arguments);
-        });
-    };
-    handlers_.receivers.push_back(std::move(receiver));
-    return std::move(*this);
 }
 
 } // namespace orken

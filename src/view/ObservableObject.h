@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
 #include "foundation/Subject.h"
 
 #include <utility>
@@ -7,12 +8,8 @@
 namespace orken {
 
 /// A shared object whose published fields tell their observers before they change. Main thread only.
-class ObservableObject {
+class ObservableObject : NonCopyable {
 public:
-    ObservableObject() = default;
-    ObservableObject(const ObservableObject&) = delete;
-    ObservableObject& operator=(const ObservableObject&) = delete;
-
     /// Called before every assignment to a published field, also of an equal value: an observer that reads a field
     /// inside the call sees the old value, so it may only mark that it needs an update.
     [[nodiscard]] Subscription observe(std::function<void()> willChange)

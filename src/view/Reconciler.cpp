@@ -1,25 +1,26 @@
 #include "view/Reconciler.h"
 
-#include <algorithm>
-#include <set>
-
 namespace orken {
 
 namespace {
 
-/// What stood at the place of `element`: the first child with its key that no sibling has taken, or without a key the
-/// one at the same position.
-RenderNodePtr predecessor(const Element& element, std::size_t position, const std::vector<RenderNodePtr>& old,
-                          const std::set<NodeId>& taken)
+/// What stood at the place of `element`; null where that was another thing.
+RenderNodePtr predecessor(const Element& element, std::size_t place, const std::vector<RenderNodePtr>& siblings)
 {
-    if (!element.identity()) {
-        const bool same = position < old.size() && sameIdentity(element, old[position]->element);
-        return same ? old[position] : nullptr;
+    const bool same = place < siblings.size() && sameIdentity(element, siblings[place]->element);
+    return same ? siblings[place] : nullptr;
+}
+
+std::shared_ptr<Reception> receive(const std::optional<Receiver>& wanted, std::shared_ptr<Reception> present)
+{
+    if (!wanted) {
+        return nullptr;
     }
-    const auto found = std::find_if(old.begin(), old.end(), [&](const RenderNodePtr& node) {
-        return !taken.contains(node->id) && sameIdentity(element, node->element);
-    });
-    return found == old.end() ? nullptr : *found;
+    if (!present || !present->isFrom(wanted->subject)) {
+        return std::make_shared<Reception>(*wanted);
+    }
+    present->setHandler(wanted->handler);
+    return present;
 }
 
 } // namespace
@@ -34,7 +35,6 @@ RenderNodePtr Reconciler::place(Element element, const RenderNodePtr& old)
         node->id = old->id;
         node->view = old->view;
         node->representation = old->representation;
-        node->receptions = old->receptions;
     } else {
         node->id = ++lastId_;
     }
@@ -58,7 +58,7 @@ RenderNodePtr Reconciler::place(Element element, const RenderNodePtr& old)
         }
         node->children = placeChildren(std::move(children), old.get());
     }
-    receive(*node);
+    node->reception = receive(handlers.receiver, old ? old->reception : nullptr);
     return node;
 }
 
@@ -75,36 +75,11 @@ std::vector<RenderNodePtr> Reconciler::placeChildren(std::vector<Element> elemen
 {
     std::vector<RenderNodePtr> nodes;
     nodes.reserve(elements.size());
-    std::set<NodeId> taken;
-    for (std::size_t position = 0; position < elements.size(); ++position) {
-        const auto before = old ? predecessor(elements[position], position, old->children, taken) : nullptr;
-        if (before) {
-            taken.insert(before->id);
-        }
-        nodes.push_back(place(std::move(elements[position]), before));
+    for (std::size_t i = 0; i < elements.size(); ++i) {
+        const auto before = old ? predecessor(elements[i], i, old->children) : nullptr;
+        nodes.push_back(place(std::move(elements[i]), before));
     }
     return nodes;
-}
-
-void Reconciler::receive(RenderNode& node)
-{
-    const auto& wanted = node.element.handlers().receivers;
-    if (wanted.empty() && !node.receptions) {
-        return;
-    }
-    if (!node.receptions) {
-        node.receptions = std::make_shared<std::vector<RenderNode::Reception>>();
-    }
-    auto& present = *node.receptions;
-    present.resize(wanted.size());
-    for (std::size_t i = 0; i < wanted.size(); ++i) {
-        if (present[i].slot && present[i].source == wanted[i].source) {
-            *present[i].slot = wanted[i].deliver;
-            continue;
-        }
-        auto slot = std::make_shared<Receiver::Deliver>(wanted[i].deliver);
-        present[i] = {.source = wanted[i].source, .slot = slot, .subscription = wanted[i].subscribe(slot)};
-    }
 }
 
 RenderNodePtr Reconciler::refresh(const RenderNodePtr& node)
@@ -121,13 +96,8 @@ RenderNodePtr Reconciler::refresh(const RenderNodePtr& node)
             return node;
         }
     }
-    auto refreshed = std::make_shared<RenderNode>();
-    refreshed->id = node->id;
-    refreshed->element = node->element;
+    auto refreshed = std::make_shared<RenderNode>(*node);
     refreshed->children = std::move(children);
-    refreshed->view = node->view;
-    refreshed->representation = node->representation;
-    refreshed->receptions = node->receptions;
     return refreshed;
 }
 

@@ -27,7 +27,6 @@ public:
 private:
     std::vector<RenderNodePtr> placeChildren(std::vector<Element> elements, const RenderNode* old);
     std::vector<RenderNodePtr> placeBody(View& view, const RenderNode* old);
-    void receive(RenderNode& node);
 
     std::function<void()> onMark_;
     NodeId lastId_ = kRootContainer;

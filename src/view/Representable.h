@@ -1,22 +1,27 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
+
 #include <memory>
 #include <type_traits>
 #include <utility>
 
 namespace orken {
 
+/// The platform's own object behind a native view: its type derives from this, and the platform alone casts back to it.
+class NativeHandle {
+protected:
+    ~NativeHandle() = default;
+};
+
 /// A native view of a platform, opaque to everything above the ports. The browser view and the animation view derive
 /// from it; a platform's view host knows how to put its own ones on the screen.
-class PlatformView {
+class PlatformView : NonCopyable {
 public:
-    PlatformView() = default;
-    PlatformView(const PlatformView&) = delete;
-    PlatformView& operator=(const PlatformView&) = delete;
     virtual ~PlatformView() = default;
 
-    /// The platform's own object behind the view; only the platform that made the view knows its type.
-    [[nodiscard]] virtual void* native() = 0;
+    /// Lives as long as the view; null for a view that its platform needs to know nothing of.
+    [[nodiscard]] virtual NativeHandle* native() = 0;
 };
 
 /// What lives as long as a representable's place in the tree.
@@ -29,11 +34,8 @@ struct RepresentableContext {
 struct NoCoordinator {};
 
 /// A representable at its place in the tree: made once, updated on every redraw of the view that holds it.
-class Representation {
+class Representation : NonCopyable {
 public:
-    Representation() = default;
-    Representation(const Representation&) = delete;
-    Representation& operator=(const Representation&) = delete;
     virtual ~Representation() = default;
 
     /// The native view, the same object for the whole life of this representation.

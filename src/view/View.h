@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
 #include "view/Element.h"
 #include "view/Geometry.h"
 #include "view/ObservableObject.h"
@@ -12,12 +13,8 @@ namespace orken {
 
 /// A screen, or a part of one, with state of its own. The tree calls `body()` when the view is placed, when one of its
 /// state cells or observed objects has changed and when the view around it is redrawn. Main thread only.
-class View {
+class View : NonCopyable {
 public:
-    View() : invalidation_(std::make_shared<Invalidation>()) {}
-
-    View(const View&) = delete;
-    View& operator=(const View&) = delete;
     virtual ~View() = default;
 
     [[nodiscard]] virtual Element body() = 0;
@@ -45,7 +42,7 @@ protected:
     }
 
 private:
-    std::shared_ptr<Invalidation> invalidation_;
+    std::shared_ptr<Invalidation> invalidation_ = std::make_shared<Invalidation>();
     std::vector<Subscription> observations_;
 };
 

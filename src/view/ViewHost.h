@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
 #include "view/Mutation.h"
 
 #include <functional>
@@ -19,11 +20,8 @@ protected:
 };
 
 /// The seam to a toolkit: one window's content area. Main thread only.
-class ViewHost {
+class ViewHost : NonCopyable {
 public:
-    ViewHost() = default;
-    ViewHost(const ViewHost&) = delete;
-    ViewHost& operator=(const ViewHost&) = delete;
     virtual ~ViewHost() = default;
 
     /// Takes the steps in order. Events of the widgets go to `events`, which outlives the host's last widget.

@@ -20,7 +20,7 @@ public:
     {
     }
 
-    [[nodiscard]] void* native() override { return static_cast<SeenView*>(this); }
+    [[nodiscard]] NativeHandle* native() override { return this; }
 
     [[nodiscard]] Size bounds() const override { return bounds_; }
 

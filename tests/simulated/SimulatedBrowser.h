@@ -34,7 +34,7 @@ public:
     {
     }
 
-    [[nodiscard]] void* native() override { return nullptr; }
+    [[nodiscard]] NativeHandle* native() override { return nullptr; }
 
     [[nodiscard]] std::optional<std::string> title() const override { return title_; }
 

@@ -17,9 +17,8 @@ enum class Kind { nothing, text, row, column, layers, part };
 /// An element that can be described again and changed a little.
 struct Description {
     Kind kind = Kind::nothing;
-    /// The text, and the key of what has one; siblings may have the same.
+    /// Of a text.
     char letter = 'x';
-    bool keyed = false;
     bool boxed = false;
     std::size_t part = 0;
     std::vector<Description> children;
@@ -71,7 +70,6 @@ private:
 Description World::make(std::size_t part, int depth)
 {
     Description made{.kind = static_cast<Kind>(pick(6)), .letter = static_cast<char>('x' + pick(3))};
-    made.keyed = pick(3) == 0;
     made.boxed = pick(4) == 0;
     made.part = part + 1 + pick(kParts);
     if ((made.kind == Kind::part && made.part >= kParts) || depth > 3) {
@@ -132,9 +130,8 @@ Element World::describe(const Description& description)
         return Nested<Part>([this, part = description.part] { return std::make_unique<Part>(*this, part); },
                             [part = description.part](Part& view) { view.number = part; });
     };
-    Element made =
-        description.boxed && description.kind != Kind::nothing ? element().background(Color::gray()) : element();
-    return description.keyed ? std::move(made).key(std::string(1, description.letter)) : made;
+    const bool boxed = description.boxed && description.kind != Kind::nothing;
+    return boxed ? element().background(Color::gray()) : element();
 }
 
 TEST(RandomTree, aRedrawnTreeIsTheTreeThatTheSameDescriptionGivesAnew)

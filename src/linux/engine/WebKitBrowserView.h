@@ -34,7 +34,7 @@ public:
     /// Takes over a spare view, also one whose blank page is still loading: the first load then waits for it.
     WebKitBrowserView(std::unique_ptr<SpareView> spare, Report report);
 
-    [[nodiscard]] void* native() override { return static_cast<WidgetView*>(this); }
+    [[nodiscard]] NativeHandle* native() override { return this; }
 
     [[nodiscard]] GtkWidget* widget() const override { return GTK_WIDGET(view_.get()); }
 

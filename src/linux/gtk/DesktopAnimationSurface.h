@@ -21,7 +21,7 @@ public:
     DesktopAnimationSurface(Size size, std::filesystem::path renderer);
     ~DesktopAnimationSurface() override;
 
-    [[nodiscard]] void* native() override { return static_cast<WidgetView*>(this); }
+    [[nodiscard]] NativeHandle* native() override { return this; }
 
     [[nodiscard]] GtkWidget* widget() const override { return area_.get(); }
 

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "view/Representable.h"
+
 #include <gtk/gtk.h>
 
 namespace orken::desktop {
 
 /// What `PlatformView::native` points to on this desktop. Main thread only.
-class WidgetView {
+class WidgetView : public NativeHandle {
 public:
     /// Owned by the view; a view is in one place of one window at most.
     [[nodiscard]] virtual GtkWidget* widget() const = 0;
