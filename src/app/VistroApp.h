@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "app/VersionGate.h"
 #include "browser/BrowserServices.h"
+#include "foundation/NonCopyable.h"
 #include "machine/MachineServices.h"
 #include "platform/Ports.h"
 #include "provider/Endpoints.h"
@@ -12,12 +13,9 @@ namespace orken {
 
 /// The application: one window group with the start screen, and the delegate that cleans up at the end. It puts the
 /// rooms of the product together and lives as long as the process. Main thread only.
-class VistroApp {
+class VistroApp : NonCopyable {
 public:
     VistroApp(const Ports& ports, Endpoints endpoints);
-
-    VistroApp(const VistroApp&) = delete;
-    VistroApp& operator=(const VistroApp&) = delete;
 
     /// The process's exit status.
     [[nodiscard]] int main();

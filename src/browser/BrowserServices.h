@@ -4,6 +4,7 @@
 #include "browser/PdfDownload.h"
 #include "browser/SwiftUIWebView.h"
 #include "browser/UpdatePass.h"
+#include "foundation/NonCopyable.h"
 #include "machine/MachineServices.h"
 #include "platform/Ports.h"
 #include "provider/Endpoints.h"
@@ -12,12 +13,9 @@ namespace orken {
 
 /// What the session's browser works with, one set a process; it outlives every view, script and request. Main thread
 /// only.
-class BrowserServices {
+class BrowserServices : NonCopyable {
 public:
     BrowserServices(const Ports& ports, const Endpoints& endpoints, MachineServices& machine);
-
-    BrowserServices(const BrowserServices&) = delete;
-    BrowserServices& operator=(const BrowserServices&) = delete;
 
     /// What the browser view in a session's screen needs.
     [[nodiscard]] SwiftUIWebView::Services forView();

@@ -29,7 +29,7 @@ public:
     Cover measureAndUncover(BrowserView& webView, const std::string& url,
                             const std::shared_ptr<WebViewModel>& viewModel);
 
-    /// Takes what the geometry script came to.
+    /// Takes the result of the geometry script.
     void handleVideoGeometry(const ScriptResult& result);
 
 private:

@@ -16,7 +16,7 @@ namespace orken {
 using JsonNumbers = std::map<std::string, double>;
 
 /// The members of a JSON object all of whose values are numbers; true and false are none. Absent for another object and
-/// for an array; an error for what is no document with an object or an array, a number beyond the range of a double
+/// for an array; an error for what is not a document with an object or an array, a number beyond the range of a double
 /// included. Any thread.
 [[nodiscard]] Outcome<std::optional<JsonNumbers>> jsonNumbers(std::string_view document);
 

@@ -14,8 +14,8 @@ struct PropertyListMember {
     std::optional<std::int64_t> integer;
 };
 
-/// Looks for `key` in a property list, XML or binary. Absent when its top level is no dictionary; an error when it is
-/// no property list. An integer above the range is read as the negative one of the same bits.
+/// Looks for `key` in a property list, XML or binary. Absent when its top level is not a dictionary; an error when it
+/// is no property list. An integer above the range is read as the negative one of the same bits.
 [[nodiscard]] Outcome<std::optional<PropertyListMember>> readPropertyList(const Bytes& bytes, const std::string& key);
 
 /// A dictionary of one integer as an XML property list, version 1.0.

@@ -1,5 +1,6 @@
 #include "foundation/TextDecoding.h"
 
+#include "foundation/NonCopyable.h"
 #include "foundation/Text.h"
 
 #include <array>
@@ -26,12 +27,9 @@ constexpr std::array<ByteOrderMark, 5> kByteOrderMarks{{{"\xEF\xBB\xBF"sv, "UTF-
                                                         {"\xFE\xFF"sv, "UTF-16BE"}}};
 
 /// A conversion to UTF-8, closed with its owner.
-class Converter {
+class Converter : NonCopyable {
 public:
     explicit Converter(const std::string& charset) : handle_(iconv_open("UTF-8", charset.c_str())) {}
-
-    Converter(const Converter&) = delete;
-    Converter& operator=(const Converter&) = delete;
 
     ~Converter()
     {
@@ -44,7 +42,7 @@ public:
     // NOLINTNEXTLINE(performance-no-int-to-ptr)
     [[nodiscard]] bool isKnown() const { return handle_ != reinterpret_cast<iconv_t>(-1); }
 
-    /// Absent when the bytes are no text of the charset, or end within a character.
+    /// Absent when the bytes are not text in the charset, or end within a character.
     [[nodiscard]] std::optional<std::string> convert(std::string_view bytes)
     {
         std::string rest(bytes);

@@ -8,7 +8,8 @@
 namespace orken {
 
 /// The text of a response whose encoding has to be found out: a byte-order mark, else the charset that the response
-/// names, if it is a known one, else strict UTF-8. No bytes are the empty text; absent when the bytes are no text.
+/// names, if it is a known one, else strict UTF-8. Without any bytes the text is empty; absent when the
+/// bytes are not text in that encoding.
 [[nodiscard]] std::optional<std::string> decodeText(const Bytes& body, const std::optional<std::string>& charset);
 
 } // namespace orken

@@ -81,7 +81,7 @@ std::optional<std::string_view> splitOff(std::string_view& text, char mark)
     return rest;
 }
 
-/// What stands before the first ":"; absent when that is no scheme.
+/// What stands before the first ":"; absent when that is not a scheme.
 std::optional<std::string_view> schemeOf(std::string_view text)
 {
     const std::string_view scheme = text.substr(0, text.find(':'));
@@ -91,7 +91,7 @@ std::optional<std::string_view> schemeOf(std::string_view text)
     return valid ? std::optional(scheme) : std::nullopt;
 }
 
-/// `[userinfo@]host[:port]`; false when it is none.
+/// `[userinfo@]host[:port]`; false when it is not one.
 bool readAuthority(std::string_view authority, Pieces& pieces)
 {
     if (const std::size_t at = authority.rfind('@'); at != std::string_view::npos) {

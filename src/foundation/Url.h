@@ -22,10 +22,10 @@ struct UrlComponents {
     bool operator==(const UrlComponents&) const = default;
 };
 
-/// Absent for what is no absolute address: control characters, blanks, `"`, `<`, `>` and bytes above 7F, a "%" without
-/// two hex digits, a second "#", a port that is no number up to 65535, an unclosed "[" in the host, the empty text. The
-/// characters `| { } ^ [ ] \` and the grave accent pass in path, query and fragment only: the engine leaves them raw in
-/// addresses.
+/// Absent for what is not an absolute address: control characters, blanks, `"`, `<`, `>` and bytes above 7F, a "%"
+/// without two hex digits, a second "#", a port that is not a number up to 65535, an unclosed "[" in the host, the
+/// empty text. The characters `| { } ^ [ ] \` and the grave accent pass in path, query and fragment only: the engine
+/// leaves them raw in addresses.
 [[nodiscard]] std::optional<UrlComponents> parseUrl(std::string_view text);
 
 /// Whether `parseUrl` gives something, found out without a copy: a `data:` URL holds a whole document.

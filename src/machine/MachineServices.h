@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
 #include "machine/BrowsingData.h"
 #include "machine/OtherApplications.h"
 #include "machine/SavedState.h"
@@ -11,7 +12,7 @@
 namespace orken {
 
 /// What the client does to the machine around it, one set a process. Main thread only.
-struct MachineServices {
+struct MachineServices : private NonCopyable {
     MachineServices(const Ports& ports, const Endpoints& endpoints);
 
     BrowsingData browsingData;

@@ -31,7 +31,7 @@ public:
     [[nodiscard]] virtual Outcome<std::vector<std::string>>
     contentsOfDirectory(const std::filesystem::path& directory) const = 0;
 
-    /// With the ones above it; one that is there is no error.
+    /// With the folders above it; one that exists already is not an error.
     [[nodiscard]] virtual Outcome<void> createDirectory(const std::filesystem::path& directory) = 0;
 
     /// The whole content of a regular file; one of more than `limit` bytes is an error with the code `EFBIG`.

@@ -1,5 +1,6 @@
 #include "contract/ContractDesktop.h"
 #include "linux/Desktop.h"
+#include "linux/LoopbackServer.h"
 
 #include <gio/gio.h>
 #include <gtk/gtk.h>
@@ -92,9 +93,22 @@ public:
         return "http://127.0.0.1:" + std::to_string(port) + "/";
     }
 
+    [[nodiscard]] std::string untrustedPage() override
+    {
+        auto answer = +[](SoupServer*, SoupServerMessage* message, const char*, GHashTable*, gpointer) {
+            soup_server_message_set_status(message, SOUP_STATUS_OK, nullptr);
+            soup_server_message_set_response(message, "text/html", SOUP_MEMORY_STATIC, "page", 4);
+        };
+        identity_ = std::make_unique<SelfSignedIdentity>();
+        untrusted_ = std::make_unique<LoopbackServer>(answer, identity_.get());
+        return untrusted_->url("/");
+    }
+
     [[nodiscard]] Ports ports() override { return portsOf(desktop_); }
 
 private:
+    std::unique_ptr<SelfSignedIdentity> identity_;
+    std::unique_ptr<LoopbackServer> untrusted_;
     Desktop desktop_{{.bundleIdentifier = "com.orken.contract", .version = "1.0"}};
 };
 

@@ -1,17 +1,13 @@
-#include "linux/loop/GObjectPtr.h"
-#include "linux/loop/PrivateContext.h"
+#include "linux/LoopbackServer.h"
 #include "linux/loop/Source.h"
 #include "linux/services/BlockingReader.h"
 #include "linux/services/HttpSession.h"
 
 #include <gmock/gmock.h>
 
-#include <atomic>
 #include <csignal>
-#include <cstring>
 #include <filesystem>
 #include <future>
-#include <libsoup/soup.h>
 #include <thread>
 #include <unistd.h>
 
@@ -63,54 +59,6 @@ void answer(SoupServer*, SoupServerMessage* message, const char* requested, GHas
     }
 }
 
-/// On 127.0.0.1, with a thread of its own; with a PEM file of key and certificate it speaks TLS.
-class LoopbackServer {
-public:
-    explicit LoopbackServer(const char* identityFile = nullptr) : thread_([=, this] { run(identityFile); })
-    {
-        base_ = ready_.get_future().get();
-    }
-
-    ~LoopbackServer()
-    {
-        quit_ = true;
-        g_main_context_wakeup(context_.get());
-        thread_.join();
-    }
-
-    [[nodiscard]] std::string url(const std::string& path) const { return base_ + path; }
-
-private:
-    void run(const char* identityFile)
-    {
-        const ThreadDefault current(context_);
-        const auto server = GObjectPtr<SoupServer>::adopt(soup_server_new(nullptr, nullptr));
-        if (identityFile) {
-            const auto identity =
-                GObjectPtr<GTlsCertificate>::adopt(g_tls_certificate_new_from_file(identityFile, nullptr));
-            soup_server_set_tls_certificate(server.get(), identity.get());
-        }
-        soup_server_add_handler(server.get(), nullptr, answer, nullptr, nullptr);
-        auto options = static_cast<SoupServerListenOptions>(SOUP_SERVER_LISTEN_IPV4_ONLY |
-                                                            (identityFile ? SOUP_SERVER_LISTEN_HTTPS : 0));
-        soup_server_listen_local(server.get(), 0, options, nullptr);
-        GSList* uris = soup_server_get_uris(server.get());
-        const GText base(g_uri_to_string(static_cast<GUri*>(uris->data)));
-        g_slist_free_full(uris, [](gpointer uri) { g_uri_unref(static_cast<GUri*>(uri)); });
-        ready_.set_value(std::string(base.get(), std::strlen(base.get()) - 1));
-        while (!quit_) {
-            g_main_context_iteration(context_.get(), TRUE);
-        }
-        soup_server_disconnect(server.get());
-    }
-
-    PrivateContext context_;
-    std::promise<std::string> ready_;
-    std::string base_;
-    std::atomic<bool> quit_ = false;
-    std::thread thread_;
-};
-
 DataTaskResult get(HttpSession& session, const std::string& url)
 {
     std::promise<DataTaskResult> result;
@@ -131,7 +79,7 @@ std::size_t threads()
 
 TEST(HttpSession, anyStatusIsAnAnswerWithItsBodyAndType)
 {
-    const LoopbackServer server;
+    const LoopbackServer server(answer);
     HttpSession session;
     for (const auto& [path, status, type, body] :
          {std::tuple{"/text", 200, "text/html", "a\xF0la"}, std::tuple{"/moved", 200, "text/html", "a\xF0la"},
@@ -147,7 +95,7 @@ TEST(HttpSession, anyStatusIsAnAnswerWithItsBodyAndType)
 
 TEST(HttpSession, whatCannotBeLoadedIsAnErrorWithoutData)
 {
-    const LoopbackServer server;
+    const LoopbackServer server(answer);
     HttpSession session(kSmall);
     for (const std::string& url : {std::string("https:///x"), server.url("/large"), server.url("/round"),
                                    server.url("/silent"), server.url("/stalling")}) {
@@ -160,7 +108,7 @@ TEST(HttpSession, whatCannotBeLoadedIsAnErrorWithoutData)
 
 TEST(HttpSession, aServerThatHangsHoldsNothingUp)
 {
-    const LoopbackServer server;
+    const LoopbackServer server(answer);
     HttpSession session;
     for (int i = 0; i < 3; ++i) {
         session.startDataTask(server.url("/silent"), [](const DataTaskResult&) { FAIL() << "after the end"; });
@@ -175,7 +123,7 @@ TEST(HttpSession, aServerThatHangsHoldsNothingUp)
 
 TEST(HttpSession, cookiesAreSentBackUntilTheyAreRemoved)
 {
-    const LoopbackServer server;
+    const LoopbackServer server(answer);
     HttpSession session;
     EXPECT_EQ(bodyOf(get(session, server.url("/cookie"))), "none");
     EXPECT_EQ(bodyOf(get(session, server.url("/cookie"))), "seat=7");
@@ -195,29 +143,22 @@ TEST(HttpSession, doesNothingBeforeItsFirstRequest)
 
 TEST(HttpSession, believesOnlyAKnownAuthority)
 {
-    const std::string identity = testing::TempDir() + "orken-identity-" + std::to_string(getpid()) + ".pem";
-    const std::string command = "openssl req -x509 -newkey ec -pkeyopt ec_paramgen_curve:P-256 -nodes -days 2 "
-                                "-subj /CN=loopback -addext subjectAltName=IP:127.0.0.1 -keyout " +
-                                identity + " -out " + identity + ".cert 2>/dev/null && cat " + identity + ".cert >> " +
-                                identity;
-    ASSERT_EQ(std::system(command.c_str()), 0);
-    const LoopbackServer server(identity.c_str());
+    const SelfSignedIdentity identity;
+    const LoopbackServer server(answer, &identity);
     HttpSession stranger;
     HttpSession lost("/nowhere/authority.pem");
-    HttpSession friendly(identity + ".cert");
+    HttpSession friendly(identity.certificate());
     EXPECT_THAT(bodyOf(get(stranger, server.url("/text"))), testing::HasSubstr("g-tls-error-quark"));
     EXPECT_THAT(bodyOf(get(lost, server.url("/text"))), testing::HasSubstr("g-tls-error-quark"));
     EXPECT_EQ(bodyOf(get(friendly, server.url("/text"))), "a\xF0la");
     auto otherName = server.url("/text");
     otherName.replace(otherName.find("127.0.0.1"), 9, "localhost");
     EXPECT_THAT(bodyOf(get(friendly, otherName)), testing::HasSubstr("g-tls-error-quark"));
-    std::filesystem::remove(identity);
-    std::filesystem::remove(identity + ".cert");
 }
 
 TEST(BlockingReader, readsTextWithoutServingTheMainLoop)
 {
-    const LoopbackServer server;
+    const LoopbackServer server(answer);
     int served = 0;
     auto idle = Source::idle(G_PRIORITY_DEFAULT, [&served] { ++served; });
     BlockingReader reader;
@@ -233,7 +174,7 @@ TEST(BlockingReader, readsTextWithoutServingTheMainLoop)
 
 TEST(BlockingReader, aTerminationSignalCancelsItAndReachesTheMainLoopAfterwards)
 {
-    const LoopbackServer server;
+    const LoopbackServer server(answer);
     int terminations = 0;
     const auto handler = Source::onSignal(SIGTERM, [&terminations] { ++terminations; });
     const auto begin = std::chrono::steady_clock::now();
