@@ -4,9 +4,9 @@ namespace orken {
 
 void Uninstall::confirmUninstall()
 {
-    const int answer = alerts_.runModal({.messageText = "Uygulamayı silmek istediğinizden emin misiniz?",
-                                         .informativeText = "Bu işlem geri alınamaz",
-                                         .buttons = {"Evet", "Hayır"}});
+    const int answer = alerts_.runModal({.title = "Uygulamayı silmek istediğinizden emin misiniz?",
+                                         .message = "Bu işlem geri alınamaz",
+                                         .buttons = {{.title = "Evet"}, {.title = "Hayır"}}});
     if (answer == kAlertFirstButtonReturn) {
         removeInstalledApplication();
         application_.terminate();

@@ -21,7 +21,7 @@ struct UrlRequest {
     Seconds timeout{60};
 };
 
-enum class ScriptInjectionTime { documentStart, documentEnd };
+enum class ScriptInjectionTime { documentEnd };
 
 struct UserScript {
     std::string source;

@@ -71,8 +71,7 @@ public:
 
     void addUserScript(const UserScript& script) override
     {
-        const bool atEnd = script.injectionTime == ScriptInjectionTime::documentEnd;
-        journal_.add(std::string("user script at ") + (atEnd ? "end" : "start") +
+        journal_.add(std::string("user script at end") +
                      (script.forMainFrameOnly ? " of the main frame: " : " of every frame: ") + script.source);
     }
 

@@ -164,7 +164,7 @@ void StubViewHost::press(const std::string& text)
     events_->pressed(*button);
 }
 
-std::optional<AlertContent> StubViewHost::alert() const
+std::optional<Alert> StubViewHost::alert() const
 {
     const auto id = findIf([](const Node& node) { return node.modifiers.alert.has_value(); });
     return id ? nodes_.at(*id).modifiers.alert : std::nullopt;

@@ -48,7 +48,7 @@ public:
     /// The user presses the button with this text in its label.
     void press(const std::string& text);
     /// The alert that hangs on some element; absent when none is up.
-    [[nodiscard]] std::optional<AlertContent> alert() const;
+    [[nodiscard]] std::optional<Alert> alert() const;
     void answerAlert(const std::string& title);
     /// The layout gives this size to every geometry reader.
     void layOut(Size size);

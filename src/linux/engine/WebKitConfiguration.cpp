@@ -25,12 +25,10 @@ void WebKitConfiguration::setDeveloperExtrasEnabled(bool enabled)
 
 void WebKitConfiguration::addUserScript(const UserScript& script)
 {
-    WebKitUserScript* made = webkit_user_script_new(
-        script.source.c_str(),
-        script.forMainFrameOnly ? WEBKIT_USER_CONTENT_INJECT_TOP_FRAME : WEBKIT_USER_CONTENT_INJECT_ALL_FRAMES,
-        script.injectionTime == ScriptInjectionTime::documentStart ? WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_START
-                                                                   : WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_END,
-        nullptr, nullptr);
+    WebKitUserScript* made = webkit_user_script_new(script.source.c_str(),
+                                                    script.forMainFrameOnly ? WEBKIT_USER_CONTENT_INJECT_TOP_FRAME
+                                                                            : WEBKIT_USER_CONTENT_INJECT_ALL_FRAMES,
+                                                    WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_END, nullptr, nullptr);
     webkit_user_content_manager_add_script(webkit_web_view_get_user_content_manager(view_), made);
     webkit_user_script_unref(made);
 }
