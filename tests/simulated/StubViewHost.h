@@ -68,6 +68,8 @@ private:
     void take(const mutation::Remove& step);
     void take(const mutation::Update& step);
     Node& at(NodeId id);
+    /// For messages: its number and, where it has one, its text.
+    [[nodiscard]] std::string name(NodeId id) const;
     [[nodiscard]] std::vector<Rendered> render(NodeId parent) const;
     [[nodiscard]] bool isSeen(NodeId id) const;
     [[nodiscard]] bool isUsable(NodeId id) const;
