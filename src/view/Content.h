@@ -88,10 +88,10 @@ struct Modifiers {
     Insets innerPadding;
     std::optional<Frame> frame;
     std::optional<Color> background;
-    /// Of the background's corners, in points.
+    /// The corners of the background, in points.
     double cornerRadius = 0;
     Insets padding;
-    /// Of the centre, in the layers around; without one it stands in the middle.
+    /// Where the centre stands in the layers around it; absent: in the middle.
     std::optional<Point> position;
     double opacity = 1;
     bool enabled = true;

@@ -98,11 +98,11 @@ private:
     std::vector<Element> children_;
 };
 
-/// Same type, so that at the same place it is the same thing on the screen. An element with a box and one without are
-/// different things.
+/// Whether both have the same type, so that at the same place they are the same thing on the screen. An element with a
+/// box and one without are different things.
 [[nodiscard]] bool sameIdentity(const Element& left, const Element& right);
 
-/// Nothing to do for the toolkit between the two.
+/// Whether the toolkit has nothing to do between the two.
 [[nodiscard]] bool sameAppearance(const Element& left, const Element& right);
 
 [[nodiscard]] Element Text(std::string text);

@@ -13,8 +13,7 @@ constexpr int kIconSize = 48;
 constexpr int kTextWidthInCharacters = 48;
 /// A longer text scrolls, so that the buttons stay on the screen.
 constexpr int kMaximumTextHeight = 360;
-/// In characters. Texts from outside are as long as somebody makes them, and the layout of one of megabytes takes
-/// minutes.
+/// In characters. A text from outside may be of any length, and the layout of megabytes takes minutes.
 constexpr glong kLongestText = 2000;
 
 /// Valid, and not longer than can be shown.
@@ -60,7 +59,7 @@ GtkWidget* makeTexts(const Alert& alert)
         gtk_scrolled_window_set_child(GTK_SCROLLED_WINDOW(scroller), label);
         int height = 0;
         gtk_widget_measure(label, GTK_ORIENTATION_VERTICAL, -1, nullptr, &height, nullptr, nullptr);
-        // A text that is seen whole is no stop on the way from button to button.
+        // The Tab key passes over a text that is seen whole.
         gtk_widget_set_can_focus(scroller, height > kMaximumTextHeight);
         gtk_box_append(GTK_BOX(texts), scroller);
     }
