@@ -73,7 +73,7 @@ bool VersionGate::isUpdateRequired(const std::string& current, const std::string
     return numericCompare(current, required) < 0;
 }
 
-AlertDescription VersionGate::updateAlert(const std::string& appVersionMessage, const std::string& downloadURL) const
+Alert VersionGate::updateAlert(const std::string& appVersionMessage, const std::string& downloadURL) const
 {
     auto download = [ports = ports_, downloadURL] {
         ports.uninstall.removeInstalledApplication();

@@ -46,8 +46,7 @@ public:
     [[nodiscard]] bool isUpdateRequired(const std::string& current, const std::string& required) const;
 
     /// Both of its buttons end the client; the first one removes the installed one before, to make room for the update.
-    [[nodiscard]] AlertDescription updateAlert(const std::string& appVersionMessage,
-                                               const std::string& downloadURL) const;
+    [[nodiscard]] Alert updateAlert(const std::string& appVersionMessage, const std::string& downloadURL) const;
 
 private:
     void checkAgainst(const std::optional<std::string>& required, const std::string& current,

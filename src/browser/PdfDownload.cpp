@@ -110,10 +110,10 @@ void PdfDownload::saveDownloadedFile(const Bytes& content, const std::string& fi
 
 void PdfDownload::showDownloadAlert(const std::string& fileName, const std::filesystem::path& file)
 {
-    const int answer = ports_.alerts.runModal({.messageText = fileName + " başarıyla indirildi.",
-                                               .informativeText = "Dosyanın olduğu klasörü açmak ister misiniz?",
+    const int answer = ports_.alerts.runModal({.title = fileName + " başarıyla indirildi.",
+                                               .message = "Dosyanın olduğu klasörü açmak ister misiniz?",
                                                .style = AlertStyle::informational,
-                                               .buttons = {"Aç", "Kapat"}});
+                                               .buttons = {{.title = "Aç"}, {.title = "Kapat"}}});
     if (answer == kAlertFirstButtonReturn) {
         ports_.workspace.activateFileViewer(file);
     }

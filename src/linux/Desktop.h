@@ -50,7 +50,7 @@ private:
     // In order of construction: what others are made of comes first.
     bool renderNode_;
     AlertStack alertStack_;
-    AlertGate alertGate_{alertStack_};
+    WindowAlertGate alertGate_{alertStack_};
     Subscription alertsEnded_;
 
 public:

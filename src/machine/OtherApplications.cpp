@@ -59,10 +59,10 @@ void OtherApplications::closeOtherApplications()
         return;
     }
     const int answer = ports_.alerts.runModal(
-        {.messageText = "Devam edebilmek için aşağıdaki açık uygulamalar kapatılacak, onaylıyor musunuz?",
-         .informativeText = "Açık olan uygulamalar:\n" + listText(candidates),
+        {.title = "Devam edebilmek için aşağıdaki açık uygulamalar kapatılacak, onaylıyor musunuz?",
+         .message = "Açık olan uygulamalar:\n" + listText(candidates),
          .style = AlertStyle::warning,
-         .buttons = {"Evet", "Hayır"}});
+         .buttons = {{.title = "Evet"}, {.title = "Hayır"}}});
     if (answer != kAlertFirstButtonReturn) {
         quitApplication(ports_.application);
         return;

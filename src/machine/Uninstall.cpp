@@ -6,9 +6,9 @@ namespace orken {
 
 void Uninstall::confirmUninstall()
 {
-    const int answer = ports_.alerts.runModal({.messageText = "Uygulamayı silmek istediğinizden emin misiniz?",
-                                               .informativeText = "Bu işlem geri alınamaz",
-                                               .buttons = {"Evet", "Hayır"}});
+    const int answer = ports_.alerts.runModal({.title = "Uygulamayı silmek istediğinizden emin misiniz?",
+                                               .message = "Bu işlem geri alınamaz",
+                                               .buttons = {{.title = "Evet"}, {.title = "Hayır"}}});
     if (answer == kAlertFirstButtonReturn) {
         removeInstalledApplication();
         quitApplication(ports_.application);

@@ -145,10 +145,10 @@ void WebView::openMainPage()
 
 void WebView::confirmExit()
 {
-    const int answer = ports_.alerts.runModal({.messageText = "Çıkış yapmak istediğinize emin misiniz?",
-                                               .informativeText = "",
+    const int answer = ports_.alerts.runModal({.title = "Çıkış yapmak istediğinize emin misiniz?",
+                                               .message = "",
                                                .style = AlertStyle::warning,
-                                               .buttons = {"Evet", "Hayır"}});
+                                               .buttons = {{.title = "Evet"}, {.title = "Hayır"}}});
     if (answer == kAlertFirstButtonReturn) {
         quitApplication(ports_.application);
     }

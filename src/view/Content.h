@@ -1,5 +1,6 @@
 #pragma once
 
+#include "view/Alert.h"
 #include "view/Geometry.h"
 #include "view/Style.h"
 
@@ -69,7 +70,7 @@ using Content = std::variant<EmptyContent, TextContent, StackContent, LayersCont
                              NestedContent, RepresentableContent, SymbolContent>;
 
 /// Fixed and smallest sizes in points; `fill` takes all the room that is offered. With a smallest size alone the
-/// element is as eager for room as its content.
+/// element takes more room than that only where its content does.
 struct Frame {
     std::optional<double> width;
     std::optional<double> height;
@@ -77,22 +78,6 @@ struct Frame {
     std::optional<double> minHeight;
     bool fill = false;
     bool operator==(const Frame&) const = default;
-};
-
-enum class ButtonRole { normal, cancel };
-
-/// An alert that belongs to the window of the element it hangs on.
-struct AlertContent {
-    struct Button {
-        std::string title;
-        ButtonRole role = ButtonRole::normal;
-        bool operator==(const Button&) const = default;
-    };
-
-    std::string title;
-    std::string message;
-    std::vector<Button> buttons;
-    bool operator==(const AlertContent&) const = default;
 };
 
 /// Applied from the inside out: content, inner padding, frame, background, padding.
@@ -103,14 +88,15 @@ struct Modifiers {
     Insets innerPadding;
     std::optional<Frame> frame;
     std::optional<Color> background;
-    /// Of the background's corners, in points.
+    /// The corners of the background, in points.
     double cornerRadius = 0;
     Insets padding;
-    /// Of the centre, in the layers around; without one it stands in the middle.
+    /// Where the centre stands in the layers around it; absent: in the middle.
     std::optional<Point> position;
     double opacity = 1;
     bool enabled = true;
-    std::optional<AlertContent> alert;
+    /// Belongs to the window of the element.
+    std::optional<Alert> alert;
     /// What a screen reader says, unasked, when the element comes into sight.
     std::optional<std::string> announcement;
     bool operator==(const Modifiers&) const = default;

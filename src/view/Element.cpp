@@ -164,16 +164,12 @@ Element Element::onAppear(std::function<void()> action) &&
     return std::move(*this);
 }
 
-Element Element::alert(State<bool> isPresented, AlertDescription description) &&
+Element Element::alert(State<bool> isPresented, Alert alert) &&
 {
     if (isPresented.get()) {
-        AlertContent content{.title = description.title, .message = description.message, .buttons = {}};
-        for (const AlertButton& button : description.buttons) {
-            content.buttons.push_back({.title = button.title, .role = button.role});
-        }
-        modifiers_.alert = std::move(content);
+        modifiers_.alert = alert;
     }
-    handlers_.onAlertAnswer = [isPresented, buttons = std::move(description.buttons)](std::size_t button) mutable {
+    handlers_.onAlertAnswer = [isPresented, buttons = std::move(alert.buttons)](std::size_t button) mutable {
         isPresented.set(false);
         if (button < buttons.size() && buttons[button].action) {
             buttons[button].action();

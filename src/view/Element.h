@@ -32,19 +32,6 @@ struct Handlers {
     std::function<void(Representation&)> renewRepresentation;
 };
 
-struct AlertButton {
-    std::string title;
-    ButtonRole role = ButtonRole::normal;
-    std::function<void()> action;
-};
-
-/// What an alert bound to a state cell shows and does.
-struct AlertDescription {
-    std::string title;
-    std::string message;
-    std::vector<AlertButton> buttons;
-};
-
 /// A description of something on the screen. Elements are values: they are made anew on every redraw and compared with
 /// the ones before. An element keeps its identity by its place among its siblings and its type.
 class Element {
@@ -78,7 +65,7 @@ public:
     /// window, so that what holds up the main thread never holds a window back.
     [[nodiscard]] Element onAppear(std::function<void()> action) &&;
     /// Shows the alert while the cell is true. An answer sets the cell to false, then runs the button's action.
-    [[nodiscard]] Element alert(State<bool> isPresented, AlertDescription description) &&;
+    [[nodiscard]] Element alert(State<bool> isPresented, Alert alert) &&;
 
     /// Calls the handler for what the subject sends while the element is in the tree. Another subject at the same place
     /// replaces the subscription; the same subject keeps it and calls the newest handler. Once for an element.
@@ -111,11 +98,11 @@ private:
     std::vector<Element> children_;
 };
 
-/// Same type, so that at the same place it is the same thing on the screen. An element with a box and one without are
-/// different things.
+/// Whether both have the same type, so that at the same place they are the same thing on the screen. An element with a
+/// box and one without are different things.
 [[nodiscard]] bool sameIdentity(const Element& left, const Element& right);
 
-/// Nothing to do for the toolkit between the two.
+/// Whether the toolkit has nothing to do between the two.
 [[nodiscard]] bool sameAppearance(const Element& left, const Element& right);
 
 [[nodiscard]] Element Text(std::string text);

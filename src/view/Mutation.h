@@ -31,7 +31,7 @@ struct Remove {
     NodeId child;
 };
 
-/// Sent only when something that can be seen differs.
+/// Something that can be seen differs.
 struct Update {
     RenderNodePtr before;
     RenderNodePtr after;

@@ -76,7 +76,7 @@ public:
 
     void update() override { representable_->updateNSView(*view_, context_); }
 
-    /// For handing over newer values before an update.
+    /// To be given newer values before an update.
     [[nodiscard]] Representable& representable() { return *representable_; }
 
 private:

@@ -8,7 +8,7 @@ using testing::ElementsAreArray;
 
 constexpr const char* kUnreachable = "Servisle bağlantı kurulamadı.";
 
-std::optional<AlertContent> alertOf(const Client& client)
+std::optional<Alert> alertOf(const Client& client)
 {
     return client.window(Client::kStartTitle)->content().alert();
 }

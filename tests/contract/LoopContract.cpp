@@ -3,7 +3,7 @@
 namespace orken {
 namespace {
 
-const Alert kQuestion{.messageText = "?", .buttons = {"Evet", "Hayır"}};
+const Alert kQuestion{.title = "?", .buttons = {{.title = "Evet"}, {.title = "Hayır"}}};
 
 } // namespace
 

@@ -90,7 +90,7 @@ TEST_P(Contract, terminatesOnce)
     ports.application.terminate();
     EXPECT_TRUE(ports.application.isTerminating());
     EXPECT_EQ(delegate.terminations, 1);
-    EXPECT_EQ(ports.alerts.runModal({.messageText = "?", .buttons = {"Evet"}}), kAlertAborted);
+    EXPECT_EQ(ports.alerts.runModal({.title = "?", .buttons = {{.title = "Evet"}}}), kAlertAborted);
 }
 
 } // namespace orken

@@ -23,7 +23,7 @@ public:
         if (application_.isTerminating()) {
             return kAlertAborted;
         }
-        journal_.add("alert " + alert.messageText + ": " + alert.informativeText);
+        journal_.add("alert " + alert.title + ": " + alert.message);
         const auto id = stack_.push();
         shown_.emplace_back(id, alert);
         const auto panel = windows_.showPanel([this, id] { stack_.abort(id); });
@@ -33,7 +33,7 @@ public:
             answers_.pop_front();
         }
         require(loop_.runUntil([this, id] { return stack_.result(id).has_value(); }, kPatience),
-                "nobody ends the alert " + alert.messageText);
+                "nobody ends the alert " + alert.title);
         loop_.endModal();
 
         const int result = *stack_.result(id);
@@ -51,7 +51,8 @@ public:
     {
         require(!shown_.empty(), "no alert is up");
         const auto& [id, alert] = shown_.back();
-        const auto place = std::find(alert.buttons.begin(), alert.buttons.end(), button);
+        const auto place = std::find_if(alert.buttons.begin(), alert.buttons.end(),
+                                        [&](const AlertButton& one) { return one.title == button; });
         require(place != alert.buttons.end(), "the alert has no button " + button);
         stack_.answer(id, static_cast<std::size_t>(place - alert.buttons.begin()));
     }

@@ -30,7 +30,9 @@ void StubViewHost::apply(const Mutations& mutations, ViewEvents& events)
         std::visit([this](const auto& change) { take(change); }, step);
     }
     for (const auto& [id, node] : nodes_) {
-        require(id == kRootContainer || node.parent, "a node was created and not inserted");
+        if (id != kRootContainer && !node.parent) {
+            require(false, name(id) + " was created and not inserted");
+        }
         if (auto* view = node.view ? static_cast<SeenView*>(node.view->native()) : nullptr) {
             view->setSeen(isSeen(id));
         }
@@ -40,34 +42,41 @@ void StubViewHost::apply(const Mutations& mutations, ViewEvents& events)
 void StubViewHost::take(const mutation::Create& step)
 {
     const Element& element = step.node->element;
-    require(!element.isEmpty(), "an empty element is nothing in the toolkit");
+    const auto id = std::to_string(step.node->id);
+    require(!element.isEmpty(), "an empty element was created as node " + id);
     Node node{.content = element.content(), .modifiers = element.modifiers()};
     if (step.node->representation) {
         node.view = step.node->representation->platformView();
-        require(!findIf([&](const Node& other) { return other.view == node.view; }), "a native view in two places");
+        require(!findIf([&](const Node& other) { return other.view == node.view; }),
+                "the native view of node " + id + " is in another place too");
     }
-    require(nodes_.try_emplace(step.node->id, std::move(node)).second, "a node was created twice");
+    require(nodes_.try_emplace(step.node->id, std::move(node)).second, name(step.node->id) + " was created twice");
 }
 
 void StubViewHost::take(const mutation::Delete& step)
 {
     const Node& node = at(step.id);
-    require(step.id != kRootContainer && !node.parent && node.children.empty(), "a node in use was deleted");
+    require(step.id != kRootContainer, "the window's content area was deleted");
+    require(!node.parent, name(step.id) + " was deleted before it was removed");
+    require(node.children.empty(), name(step.id) + " was deleted with children");
     nodes_.erase(step.id);
 }
 
 void StubViewHost::take(const mutation::Insert& step)
 {
     auto& siblings = at(step.parent).children;
-    require(!at(step.child).parent, "a node was inserted twice");
-    require(step.index <= siblings.size(), "an insertion beyond the end");
+    require(!at(step.child).parent, name(step.child) + " was inserted twice");
+    require(step.index <= siblings.size(), name(step.child) + " was inserted at " + std::to_string(step.index) +
+                                               " of " + std::to_string(siblings.size()) + " children of " +
+                                               name(step.parent));
     at(step.child).parent = step.parent;
     siblings.insert(siblings.begin() + static_cast<std::ptrdiff_t>(step.index), step.child);
 }
 
 void StubViewHost::take(const mutation::Remove& step)
 {
-    require(at(step.child).parent == step.parent, "a node was removed from a parent that is not its own");
+    require(at(step.child).parent == step.parent,
+            name(step.child) + " was removed from " + name(step.parent) + ", which is not its parent");
     at(step.child).parent.reset();
     std::erase(at(step.parent).children, step.child);
 }
@@ -77,10 +86,12 @@ void StubViewHost::take(const mutation::Update& step)
     Node& node = at(step.after->id);
     const Element& before = step.before->element;
     const Element& after = step.after->element;
-    require(node.content == before.content() && node.modifiers == before.modifiers(), "an update of something else");
+    require(node.content == before.content() && node.modifiers == before.modifiers(),
+            "an update of " + name(step.after->id) + " begins with what is not there");
     const bool sameWidget = before.content().index() == after.content().index() &&
                             before.modifiers().needsBox() == after.modifiers().needsBox();
-    require(sameWidget && !sameAppearance(before, after), "this is no update");
+    require(sameWidget, "an update of " + name(step.after->id) + " needs another widget");
+    require(!sameAppearance(before, after), "an update of " + name(step.after->id) + " changes nothing");
     node.content = after.content();
     node.modifiers = after.modifiers();
 }
@@ -99,8 +110,15 @@ bool StubViewHost::runFrame()
 StubViewHost::Node& StubViewHost::at(NodeId id)
 {
     const auto place = nodes_.find(id);
-    require(place != nodes_.end(), "there is no such node");
+    require(place != nodes_.end(), name(id) + " does not exist");
     return place->second;
+}
+
+std::string StubViewHost::name(NodeId id) const
+{
+    const auto place = nodes_.find(id);
+    const auto* text = place == nodes_.end() ? nullptr : std::get_if<TextContent>(&place->second.content);
+    return "node " + std::to_string(id) + (text ? " \"" + text->text + '"' : "");
 }
 
 std::vector<StubViewHost::Rendered> StubViewHost::render(NodeId parent) const
@@ -160,11 +178,12 @@ void StubViewHost::press(const std::string& text)
     while (button && !std::holds_alternative<ButtonContent>(nodes_.at(*button).content)) {
         button = nodes_.at(*button).parent;
     }
-    require(button && isUsable(*button), "this is no button that can be pressed: " + text);
+    require(button.has_value(), "the text stands in no button: " + text);
+    require(isUsable(*button), "the button is disabled or hidden: " + text);
     events_->pressed(*button);
 }
 
-std::optional<AlertContent> StubViewHost::alert() const
+std::optional<Alert> StubViewHost::alert() const
 {
     const auto id = findIf([](const Node& node) { return node.modifiers.alert.has_value(); });
     return id ? nodes_.at(*id).modifiers.alert : std::nullopt;

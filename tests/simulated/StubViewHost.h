@@ -48,7 +48,7 @@ public:
     /// The user presses the button with this text in its label.
     void press(const std::string& text);
     /// The alert that hangs on some element; absent when none is up.
-    [[nodiscard]] std::optional<AlertContent> alert() const;
+    [[nodiscard]] std::optional<Alert> alert() const;
     void answerAlert(const std::string& title);
     /// The layout gives this size to every geometry reader.
     void layOut(Size size);
@@ -68,6 +68,8 @@ private:
     void take(const mutation::Remove& step);
     void take(const mutation::Update& step);
     Node& at(NodeId id);
+    /// For messages: its number and, where it has one, its text.
+    [[nodiscard]] std::string name(NodeId id) const;
     [[nodiscard]] std::vector<Rendered> render(NodeId parent) const;
     [[nodiscard]] bool isSeen(NodeId id) const;
     [[nodiscard]] bool isUsable(NodeId id) const;

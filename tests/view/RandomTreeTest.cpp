@@ -17,7 +17,7 @@ enum class Kind { nothing, text, row, column, layers, part };
 /// An element that can be described again and changed a little.
 struct Description {
     Kind kind = Kind::nothing;
-    /// Of a text.
+    /// What a text says.
     char letter = 'x';
     bool boxed = false;
     std::size_t part = 0;

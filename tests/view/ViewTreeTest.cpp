@@ -9,7 +9,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using Lines = std::vector<std::string>;
 
-TEST(ViewTree, aConditionKeepsItsPlaceSoNeighboursStayWhatTheyAre)
+TEST(ViewTree, aConditionKeepsItsPlace)
 {
     bool covered = false;
     Screen screen([&] { return ZStack({Text("below"), When(covered, [] { return Text("cover"); }), Text("above")}); });
@@ -24,7 +24,7 @@ TEST(ViewTree, aConditionKeepsItsPlaceSoNeighboursStayWhatTheyAre)
     }
 }
 
-TEST(ViewTree, appearActionsRunAfterTheFrameChildrenBeforeParents)
+TEST(ViewTree, appearActionsRunAfterTheFrameFromTheInsideOut)
 {
     Lines log;
     bool there = true;
@@ -104,7 +104,7 @@ private:
     int& alive_;
 };
 
-TEST(ViewTree, aNestedViewIsMadeOnceKeepsItsStateAndGetsTheNewestValue)
+TEST(ViewTree, aNestedViewLivesAsLongAsItsPlace)
 {
     int alive = 0;
     int made = 0;
@@ -162,7 +162,7 @@ private:
     Lines& log_;
 };
 
-TEST(ViewTree, aRepresentableIsMadeOnceAndUpdatedOnEveryRedrawOfItsView)
+TEST(ViewTree, aRepresentableIsUpdatedByTheRedrawsOfItsView)
 {
     Lines log;
     std::optional<State<int>> beside;
@@ -184,7 +184,7 @@ TEST(ViewTree, aRepresentableIsMadeOnceAndUpdatedOnEveryRedrawOfItsView)
     EXPECT_EQ(log.size(), 4U) << "only another view was redrawn";
 }
 
-TEST(ViewTree, receiversKeepTheirSubjectGetTheNewestHandlerAndEndWithTheElement)
+TEST(ViewTree, aReceiverFollowsTheNewestElement)
 {
     Lines log;
     int drawing = 0;
@@ -220,7 +220,7 @@ TEST(ViewTree, receiversKeepTheirSubjectGetTheNewestHandlerAndEndWithTheElement)
     EXPECT_EQ(first->subscriberCount() + second->subscriberCount(), 0U);
 }
 
-TEST(ViewTree, anAlertFollowsItsCellAndAnAnswerClearsTheCellBeforeItActs)
+TEST(ViewTree, anAnsweredAlertIsDownBeforeItsActionRuns)
 {
     Lines log;
     std::optional<State<bool>> shown;
@@ -246,7 +246,7 @@ TEST(ViewTree, anAlertFollowsItsCellAndAnAnswerClearsTheCellBeforeItActs)
     EXPECT_THAT(log, ElementsAre("no down"));
 }
 
-TEST(ViewTree, aGeometryReaderFollowsItsSizeAndTheNewestDescription)
+TEST(ViewTree, aGeometryReaderIsDrawnForItsSize)
 {
     std::string unit = "pt";
     Screen screen([&] {

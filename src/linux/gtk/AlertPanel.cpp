@@ -7,23 +7,6 @@
 
 namespace orken::desktop {
 
-namespace {
-
-const char* iconName(AlertStyle style)
-{
-    switch (style) {
-    case AlertStyle::warning:
-        return "dialog-warning";
-    case AlertStyle::informational:
-        return "dialog-information";
-    case AlertStyle::critical:
-        break;
-    }
-    return "dialog-error";
-}
-
-} // namespace
-
 AlertPanel::~AlertPanel()
 {
     if (window_) {
@@ -39,12 +22,7 @@ void AlertPanel::show(const Alert& alert, GtkWindow* parent, const std::function
     }
     closed_ = std::move(closed);
     gtk_window_set_transient_for(window_, parent);
-    fillAlertWindow(window_,
-                    {.title = alert.messageText,
-                     .message = alert.informativeText,
-                     .buttons = alert.buttons,
-                     .iconName = iconName(alert.style)},
-                    answer);
+    fillAlertWindow(window_, alert, answer);
     gtk_window_present(window_);
 }
 

@@ -2,6 +2,8 @@
 
 #include "linux/loop/GObjectPtr.h"
 
+#include <string>
+
 namespace orken::desktop {
 
 namespace {
@@ -11,8 +13,7 @@ constexpr int kIconSize = 48;
 constexpr int kTextWidthInCharacters = 48;
 /// A longer text scrolls, so that the buttons stay on the screen.
 constexpr int kMaximumTextHeight = 360;
-/// In characters. Texts from outside are as long as somebody makes them, and the layout of one of megabytes takes
-/// minutes.
+/// In characters. A text from outside may be of any length, and the layout of megabytes takes minutes.
 constexpr glong kLongestText = 2000;
 
 /// Valid, and not longer than can be shown.
@@ -23,6 +24,11 @@ std::string shownText(const std::string& text)
         return valid.get();
     }
     return std::string(valid.get(), g_utf8_offset_to_pointer(valid.get(), kLongestText)) + "…";
+}
+
+const char* iconName(AlertStyle style)
+{
+    return style == AlertStyle::informational ? "dialog-information" : "dialog-warning";
 }
 
 GtkWidget* makeLabel(const std::string& text, const char* cssClass)
@@ -38,22 +44,22 @@ GtkWidget* makeLabel(const std::string& text, const char* cssClass)
     return label;
 }
 
-GtkWidget* makeTexts(const AlertWidgetsContent& content)
+GtkWidget* makeTexts(const Alert& alert)
 {
     GtkWidget* texts = gtk_box_new(GTK_ORIENTATION_VERTICAL, 8);
     gtk_widget_set_hexpand(texts, TRUE);
-    gtk_box_append(GTK_BOX(texts), makeLabel(content.title, "heading"));
-    if (!content.message.empty()) {
+    gtk_box_append(GTK_BOX(texts), makeLabel(alert.title, "heading"));
+    if (!alert.message.empty()) {
         GtkWidget* scroller = gtk_scrolled_window_new();
         gtk_scrolled_window_set_policy(GTK_SCROLLED_WINDOW(scroller), GTK_POLICY_NEVER, GTK_POLICY_AUTOMATIC);
         gtk_scrolled_window_set_propagate_natural_height(GTK_SCROLLED_WINDOW(scroller), TRUE);
         gtk_scrolled_window_set_propagate_natural_width(GTK_SCROLLED_WINDOW(scroller), TRUE);
         gtk_scrolled_window_set_max_content_height(GTK_SCROLLED_WINDOW(scroller), kMaximumTextHeight);
-        GtkWidget* label = makeLabel(content.message, nullptr);
+        GtkWidget* label = makeLabel(alert.message, nullptr);
         gtk_scrolled_window_set_child(GTK_SCROLLED_WINDOW(scroller), label);
         int height = 0;
         gtk_widget_measure(label, GTK_ORIENTATION_VERTICAL, -1, nullptr, &height, nullptr, nullptr);
-        // A text that is seen whole is no stop on the way from button to button.
+        // The Tab key passes over a text that is seen whole.
         gtk_widget_set_can_focus(scroller, height > kMaximumTextHeight);
         gtk_box_append(GTK_BOX(texts), scroller);
     }
@@ -91,20 +97,19 @@ GtkWindow* makeAlertWindow()
     return window;
 }
 
-void fillAlertWindow(GtkWindow* window, const AlertWidgetsContent& content,
-                     const std::function<void(std::size_t)>& answer)
+void fillAlertWindow(GtkWindow* window, const Alert& alert, const std::function<void(std::size_t)>& answer)
 {
     GtkWidget* row = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, kMargin);
-    GtkWidget* icon = gtk_image_new_from_icon_name(content.iconName);
+    GtkWidget* icon = gtk_image_new_from_icon_name(iconName(alert.style));
     gtk_image_set_pixel_size(GTK_IMAGE(icon), kIconSize);
     gtk_widget_set_valign(icon, GTK_ALIGN_START);
     gtk_box_append(GTK_BOX(row), icon);
-    gtk_box_append(GTK_BOX(row), makeTexts(content));
+    gtk_box_append(GTK_BOX(row), makeTexts(alert));
 
     GtkWidget* buttons = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 12);
     gtk_widget_set_halign(buttons, GTK_ALIGN_END);
-    for (std::size_t index = 0; index < content.buttons.size(); ++index) {
-        GtkWidget* button = makeButton(content.buttons[index], index, answer);
+    for (std::size_t index = 0; index < alert.buttons.size(); ++index) {
+        GtkWidget* button = makeButton(alert.buttons[index].title, index, answer);
         gtk_box_prepend(GTK_BOX(buttons), button);
         if (index == 0) {
             gtk_widget_add_css_class(button, "suggested-action");
@@ -122,12 +127,12 @@ void fillAlertWindow(GtkWindow* window, const AlertWidgetsContent& content,
     // Otherwise the window would look for the next one after a button that goes, and not at the default button.
     gtk_window_set_focus(window, nullptr);
     gtk_window_set_child(window, column);
-    const std::string title = shownText(content.title);
+    const std::string title = shownText(alert.title);
     gtk_window_set_title(window, title.c_str());
     gtk_window_set_focus(window, gtk_window_get_default_widget(window));
     // The text is what a screen reader says first.
     gtk_accessible_update_property(GTK_ACCESSIBLE(window), GTK_ACCESSIBLE_PROPERTY_LABEL, title.c_str(),
-                                   GTK_ACCESSIBLE_PROPERTY_DESCRIPTION, shownText(content.message).c_str(), -1);
+                                   GTK_ACCESSIBLE_PROPERTY_DESCRIPTION, shownText(alert.message).c_str(), -1);
 }
 
 } // namespace orken::desktop

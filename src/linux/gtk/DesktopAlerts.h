@@ -1,32 +1,16 @@
 #pragma once
 
 #include "linux/gtk/DesktopWindows.h"
-#include "linux/gtk/WindowAlert.h"
+#include "linux/gtk/WindowAlertGate.h"
 #include "platform/AlertStack.h"
 #include "platform/Alerts.h"
 
-#include <functional>
-
 namespace orken::desktop {
-
-/// When alerts of single windows may be seen: while no application-modal one is up.
-class AlertGate final : public WindowAlertGate {
-public:
-    explicit AlertGate(const AlertStack& stack) : stack_(stack) {}
-
-    [[nodiscard]] bool isOpen() const override { return stack_.depth() == 0; }
-
-    [[nodiscard]] Subject<>& opened() override { return opened_; }
-
-private:
-    const AlertStack& stack_;
-    Subject<> opened_;
-};
 
 /// Application-modal alerts over GTK. Main thread only.
 class DesktopAlerts final : public Alerts {
 public:
-    DesktopAlerts(AlertStack& stack, DesktopWindows& windows, AlertGate& gate)
+    DesktopAlerts(AlertStack& stack, DesktopWindows& windows, WindowAlertGate& gate)
         : stack_(stack), windows_(windows), gate_(gate)
     {
     }
@@ -39,7 +23,7 @@ public:
 private:
     AlertStack& stack_;
     DesktopWindows& windows_;
-    AlertGate& gate_;
+    WindowAlertGate& gate_;
     bool stopped_ = false;
 };
 

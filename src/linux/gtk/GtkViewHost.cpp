@@ -2,20 +2,7 @@
 
 #include "linux/gtk/LayerBox.h"
 
-#include <cassert>
-
 namespace orken::desktop {
-
-namespace {
-
-template <class... Visitors>
-struct Overloaded : Visitors... {
-    using Visitors::operator()...;
-};
-template <class... Visitors>
-Overloaded(Visitors...) -> Overloaded<Visitors...>;
-
-} // namespace
 
 GtkViewHost::GtkViewHost(GtkWindow* window, WindowAlertGate& alerts)
     : window_(window), alertGate_(alerts), content_(layerBoxNew()), frames_(window)
@@ -32,28 +19,23 @@ GtkViewHost::~GtkViewHost()
 void GtkViewHost::apply(const Mutations& mutations, ViewEvents& events)
 {
     for (const Mutation& step : mutations) {
-        std::visit(Overloaded{[&](const mutation::Create& create_) { create(*create_.node, events); },
-                              [&](const mutation::Delete& delete_) { destroy(delete_.id); },
-                              [&](const mutation::Insert& insert_) { insert(insert_); },
-                              [&](const mutation::Remove& remove_) { remove(remove_); },
-                              [&](const mutation::Update& update_) { update(update_, events); }},
-                   step);
+        std::visit([&](const auto& change) { take(change, events); }, step);
     }
 }
 
-void GtkViewHost::create(const RenderNode& node, ViewEvents& events)
+void GtkViewHost::take(const mutation::Create& step, ViewEvents& events)
 {
-    widgets_[node.id] = std::make_unique<ViewWidgets>(node, events);
-    showAlert(node, events);
+    widgets_[step.node->id] = std::make_unique<ViewWidgets>(*step.node, events);
+    showAlert(*step.node, events);
 }
 
-void GtkViewHost::destroy(NodeId id)
+void GtkViewHost::take(const mutation::Delete& step, ViewEvents&)
 {
-    alerts_.erase(id);
-    widgets_.erase(id);
+    alerts_.erase(step.id);
+    widgets_.erase(step.id);
 }
 
-void GtkViewHost::insert(const mutation::Insert& step)
+void GtkViewHost::take(const mutation::Insert& step, ViewEvents&)
 {
     ViewWidgets& child = *widgets_.at(step.child);
     if (step.parent == kRootContainer) {
@@ -64,7 +46,7 @@ void GtkViewHost::insert(const mutation::Insert& step)
     alignUpwards(child.outer());
 }
 
-void GtkViewHost::remove(const mutation::Remove& step)
+void GtkViewHost::take(const mutation::Remove& step, ViewEvents&)
 {
     ViewWidgets& child = *widgets_.at(step.child);
     GtkWidget* parent = gtk_widget_get_parent(child.outer());
@@ -76,7 +58,7 @@ void GtkViewHost::remove(const mutation::Remove& step)
     alignUpwards(parent);
 }
 
-void GtkViewHost::update(const mutation::Update& step, ViewEvents& events)
+void GtkViewHost::take(const mutation::Update& step, ViewEvents& events)
 {
     ViewWidgets& widgets = *widgets_.at(step.after->id);
     widgets.update(*step.before, *step.after);

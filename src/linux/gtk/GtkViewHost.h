@@ -24,11 +24,11 @@ public:
     void afterFirstFrame(std::function<void()> callback) override { frames_.afterFirst(std::move(callback)); }
 
 private:
-    void create(const RenderNode& node, ViewEvents& events);
-    void destroy(NodeId id);
-    void insert(const mutation::Insert& step);
-    void remove(const mutation::Remove& step);
-    void update(const mutation::Update& step, ViewEvents& events);
+    void take(const mutation::Create& step, ViewEvents& events);
+    void take(const mutation::Delete& step, ViewEvents& events);
+    void take(const mutation::Insert& step, ViewEvents& events);
+    void take(const mutation::Remove& step, ViewEvents& events);
+    void take(const mutation::Update& step, ViewEvents& events);
     void showAlert(const RenderNode& node, ViewEvents& events);
 
     GtkWindow* window_;

@@ -23,10 +23,9 @@ void orken_stack_box_init(OrkenStackBox*) {}
 
 namespace orken::desktop {
 
-GtkWidget* stackBoxNew(GtkOrientation orientation, int spacing)
+GtkWidget* stackBoxNew(GtkOrientation orientation)
 {
-    return GTK_WIDGET(
-        g_object_new(orken_stack_box_get_type(), "orientation", orientation, "spacing", spacing, nullptr));
+    return GTK_WIDGET(g_object_new(orken_stack_box_get_type(), "orientation", orientation, nullptr));
 }
 
 } // namespace orken::desktop

@@ -5,6 +5,6 @@
 namespace orken::desktop {
 
 /// A GtkBox that takes no clicks of its own: they go between its children to what lies below. Main thread only.
-[[nodiscard]] GtkWidget* stackBoxNew(GtkOrientation orientation, int spacing);
+[[nodiscard]] GtkWidget* stackBoxNew(GtkOrientation orientation);
 
 } // namespace orken::desktop

@@ -11,7 +11,7 @@ constexpr const char* kProvider = "orken-shadow";
 
 std::string styleOf(const Shadow& shadow)
 {
-    // Whole numbers: the decimal mark of the user's language is none of a style sheet's.
+    // Whole numbers, since the user's language may have a decimal mark that no style sheet knows.
     const auto pixels = [](double points) { return std::to_string(std::lround(points)) + "px "; };
     const auto channel = [](double value) { return std::to_string(std::lround(value * 255)); };
     const Color& color = shadow.color;

@@ -8,7 +8,7 @@
 
 namespace orken::desktop {
 
-/// The shadow of a label's text; absent for none. Main thread only.
+/// Gives a label's text this shadow, or takes it away. Main thread only.
 void applyTextShadow(GtkWidget* label, const std::optional<Shadow>& shadow);
 
 } // namespace orken::desktop

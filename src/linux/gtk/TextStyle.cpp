@@ -11,7 +11,8 @@ namespace orken::desktop {
 
 namespace {
 
-/// How much larger than usual the user wants texts: the size of the desktop's font. Its text scale comes on top.
+/// How much larger than usual the user wants texts, by the size of the desktop's font. The toolkit applies the
+/// desktop's text scale on top.
 double fontScale()
 {
     constexpr double kUsualPoints = 11;
@@ -25,7 +26,8 @@ double fontScale()
     return std::max(points / kUsualPoints, 1.0);
 }
 
-/// Sizes of the text roles in typographic points, with the usual font.
+/// Size of the text role in typographic points where the desktop's font has its usual size; absent for that font's own
+/// size.
 std::optional<int> fontPoints(Font font)
 {
     switch (font) {

@@ -1,50 +1,43 @@
 #pragma once
 
+#include "foundation/NonCopyable.h"
+#include "linux/gtk/ContentWidget.h"
 #include "linux/loop/GObjectPtr.h"
 #include "linux/loop/SignalConnection.h"
 #include "view/ViewHost.h"
 
 #include <gtk/gtk.h>
 
+#include <cstddef>
 #include <memory>
-#include <vector>
 
 namespace orken::desktop {
 
 /// The widgets of one render node: the content, and around it a box of its own where the modifiers need one. Main
 /// thread only.
-class ViewWidgets {
+class ViewWidgets : NonCopyable {
 public:
     /// `events` hears of the node's widgets while this object lives.
     ViewWidgets(const RenderNode& node, ViewEvents& events);
 
-    ViewWidgets(const ViewWidgets&) = delete;
-    ViewWidgets& operator=(const ViewWidgets&) = delete;
-
     void update(const RenderNode& before, const RenderNode& after);
 
-    void insertChild(ViewWidgets& child, std::size_t index);
-    void removeChild(ViewWidgets& child);
+    void insertChild(const ViewWidgets& child, std::size_t index);
+
+    void removeChild(const ViewWidgets& child) { content_->removeChild(child.outer()); }
 
     /// What stands in the parent.
     [[nodiscard]] GtkWidget* outer() const { return outer_.get(); }
 
 private:
-    [[nodiscard]] GtkWidget* makeContent(const RenderNode& node, ViewEvents& events);
     void announceWhenSeen();
     void apply(const Element& element);
-    void applyText(const Element& element);
     void applyFrame(const Modifiers& modifiers);
 
-    Content content_;
-    std::shared_ptr<PlatformView> platformView_;
-    GtkWidget* inner_ = nullptr;
+    std::unique_ptr<ContentWidget> content_;
     GObjectPtr<GtkWidget> outer_;
-    std::vector<SignalConnection> connections_;
+    SignalConnection mapped_;
 };
-
-/// Puts a widget among the children of a container, in drawing order.
-void insertWidget(GtkWidget* container, GtkWidget* child, std::size_t index);
 
 /// A widget that can use more room than it needs gets all of it, any other stands in the middle. To be called from
 /// where something changed up to the window.

@@ -31,19 +31,15 @@ void pressOnEscape(GtkWindow* window, std::size_t button, const Answer& answer)
 
 } // namespace
 
-WindowAlert::WindowAlert(GtkWindow* parent, const AlertContent& content, WindowAlertGate& gate, const Answer& answer)
+WindowAlert::WindowAlert(GtkWindow* parent, const Alert& alert, WindowAlertGate& gate, const Answer& answer)
     : window_(makeAlertWindow())
 {
     gtk_window_set_transient_for(window_, parent);
-    AlertWidgetsContent widgets{.title = content.title, .message = content.message, .buttons = {}};
-    for (const AlertContent::Button& button : content.buttons) {
-        widgets.buttons.push_back(button.title);
-    }
-    fillAlertWindow(window_, widgets, answer);
-    const auto cancel = std::find_if(content.buttons.begin(), content.buttons.end(),
+    fillAlertWindow(window_, alert, answer);
+    const auto cancel = std::find_if(alert.buttons.begin(), alert.buttons.end(),
                                      [](const auto& button) { return button.role == ButtonRole::cancel; });
-    if (cancel != content.buttons.end()) {
-        pressOnEscape(window_, static_cast<std::size_t>(cancel - content.buttons.begin()), answer);
+    if (cancel != alert.buttons.end()) {
+        pressOnEscape(window_, static_cast<std::size_t>(cancel - alert.buttons.begin()), answer);
     }
     if (gate.isOpen()) {
         gtk_window_present(window_);
