@@ -17,10 +17,10 @@ PlatformError cannotBeShown()
 
 Outcome<AnimationDocument> documentOf(const DataTaskResult& result)
 {
-    if (result.error || !result.data) {
-        return result.error.value_or(cannotBeShown());
+    if (!result || !result.value()) {
+        return result ? cannotBeShown() : result.error();
     }
-    return checkAnimationDocument(asText(*result.data));
+    return checkAnimationDocument(asText(*result.value()));
 }
 
 } // namespace

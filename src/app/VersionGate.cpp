@@ -50,12 +50,12 @@ void VersionGate::checkAgainst(const std::optional<std::string>& required, const
 void VersionGate::fetchRequiredVersion(std::function<void(std::optional<std::string>)> completion) const
 {
     auto answered = [&console = ports_.console, completion = std::move(completion)](const DataTaskResult& result) {
-        if (!result.data || result.error) {
-            console.printLine("Hata: " + (result.error ? result.error->localisedDescription() : "Bilinmeyen hata"));
+        if (!result || !result.value()) {
+            console.printLine("Hata: " + (result ? "Bilinmeyen hata" : result.error().localisedDescription()));
             completion(std::nullopt);
             return;
         }
-        const auto macVersion = jsonTextMember(asText(*result.data), kRequiredVersionMember);
+        const auto macVersion = jsonTextMember(asText(*result.value()), kRequiredVersionMember);
         if (!macVersion) {
             console.printLine("JSON parse hatası: " + macVersion.error().localisedDescription());
             completion(std::nullopt);

@@ -65,11 +65,11 @@ void LoginParameter::injectLoginParameter(BrowserView& webView, const std::strin
 
 std::optional<std::string> LoginParameter::parameterValue(const DataTaskResult& echo) const
 {
-    if (echo.error) {
-        ports_.console.printLine("Error fetching IP address: " + echo.error->localisedDescription());
+    if (!echo) {
+        ports_.console.printLine("Error fetching IP address: " + echo.error().localisedDescription());
         return std::nullopt;
     }
-    const auto address = echo.data ? textFromUtf8(asText(*echo.data)) : std::nullopt;
+    const auto address = echo.value() ? textFromUtf8(asText(*echo.value())) : std::nullopt;
     const std::string json = buildDeviceInfoJson(ports_.identity.platformSerialNumber().value_or(kUnknownSerialNumber),
                                                  iso8601(ports_.clock.now()), trimmed(address.value_or("")));
     ports_.console.printLine("json: " + json);

@@ -11,13 +11,11 @@ namespace orken {
 
 /// Something that the user's session runs, as it was when the list was made.
 struct RunningApplication {
-    /// Absent where the desktop does not know it.
-    std::optional<int> processIdentifier;
     /// The platform's identifiers of system components stand for what does their work on this desktop.
     std::optional<std::string> bundleIdentifier;
     /// In the user's language.
     std::optional<std::string> localizedName;
-    /// The desktop's own.
+    /// The desktop's own, by which it knows the application again.
     std::shared_ptr<const void> handle;
 };
 

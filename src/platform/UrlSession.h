@@ -2,7 +2,7 @@
 
 #include "foundation/Bytes.h"
 #include "foundation/NonCopyable.h"
-#include "foundation/PlatformError.h"
+#include "foundation/Outcome.h"
 
 #include <functional>
 #include <optional>
@@ -10,18 +10,9 @@
 
 namespace orken {
 
-struct UrlResponse {
-    int statusCode = 0;
-    /// Type and subtype in lower case without parameters; empty when the server named none.
-    std::string mimeType;
-};
-
-/// Either data and a response (any HTTP status; an empty body is present and empty) or an error.
-struct DataTaskResult {
-    std::optional<Bytes> data;
-    std::optional<UrlResponse> response;
-    std::optional<PlatformError> error;
-};
+/// The body of an answer with any HTTP status, or why there is none. An empty body is present and empty; absent is that
+/// of an answer that brings neither a body nor an error.
+using DataTaskResult = Outcome<std::optional<Bytes>>;
 
 /// The shared URL session: plain GET, redirects followed, 60 s without traffic are an error, certificates are checked.
 class UrlSession : NonCopyable {

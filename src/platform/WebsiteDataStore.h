@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
-#include <string>
 #include <vector>
 
 namespace orken {
@@ -16,7 +15,6 @@ inline constexpr WebsiteDataTypes kAllWebsiteDataTypes = 0xFFFFFFFFU;
 
 /// What one site has left behind.
 struct WebsiteDataRecord {
-    std::string displayName;
     WebsiteDataTypes dataTypes = 0;
     /// The engine's own record.
     std::shared_ptr<void> handle;

@@ -23,7 +23,7 @@ public:
         desktop.network.routes["https://ip.example/"] = {.body = "203.0.113.7\n", .delay = Seconds{0.2}};
         desktop.browserViews.site = {{kLoginURL, {.title = "Login", .loadTime = Seconds{3}}}};
         desktop.files.addFile("/home/student/.cache/com.orken.test/old");
-        desktop.websiteData.records = {{.displayName = "site.example", .dataTypes = 3}};
+        desktop.websiteData.add("site.example", 3);
     }
 
     void launch() { EXPECT_EQ(app.main(), 0); }

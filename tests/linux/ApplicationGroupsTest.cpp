@@ -34,7 +34,7 @@ SessionFacts facts()
 std::vector<std::string> described(const std::vector<ClientWindow>& windows)
 {
     std::vector<std::string> lines;
-    for (const auto& [application, ids] : groupApplications(windows, facts())) {
+    for (const auto& [application, process, ids] : groupApplications(windows, facts())) {
         std::string line =
             application.bundleIdentifier.value_or("-") + "|" + application.localizedName.value_or("-") + "|";
         for (const auto id : ids) {

@@ -54,8 +54,8 @@ TEST(BrowsingData, aMissingFolderOrNoCachesDirectoryIsNoFailure)
 TEST(BrowsingData, everySiteLosesWhatItsOwnRecordNamesInListOrder)
 {
     Bed bed;
-    bed.desktop.websiteData.records = {{.displayName = "a.example", .dataTypes = 1},
-                                       {.displayName = "b.example", .dataTypes = 6}};
+    bed.desktop.websiteData.add("a.example", 1);
+    bed.desktop.websiteData.add("b.example", 6);
     EXPECT_THAT(bed.clear(), ElementsAre("remove cookies")) << "the rest is only started";
     bed.desktop.loop.run();
     EXPECT_THAT(bed.desktop.journal.acts(),

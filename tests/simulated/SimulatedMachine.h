@@ -75,15 +75,13 @@ private:
 
 class SimulatedApplications final : public RunningApplications {
 public:
-    static constexpr int kOwnProcess = 1;
-
     explicit SimulatedApplications(Journal& journal) : journal_(journal) {}
 
-    [[nodiscard]] std::vector<RunningApplication> all() override { return running; }
+    [[nodiscard]] std::vector<RunningApplication> all() override { return running_; }
 
     [[nodiscard]] bool isCurrent(const RunningApplication& application) const override
     {
-        return application.processIdentifier == kOwnProcess;
+        return application.handle == running_.front().handle;
     }
 
     bool terminate(const RunningApplication& application) override
@@ -92,17 +90,15 @@ public:
         return true;
     }
 
-    /// An application with a process of its own.
     void add(std::optional<std::string> name, std::optional<std::string> identifier = std::nullopt)
     {
-        const auto process = static_cast<int>(running.size()) + 100;
-        running.push_back({process, std::move(identifier), std::move(name), nullptr});
+        running_.push_back({std::move(identifier), std::move(name), nullptr});
     }
-
-    std::vector<RunningApplication> running{{kOwnProcess, "com.orken.test", "ORKEN", nullptr}};
 
 private:
     Journal& journal_;
+    /// The client first.
+    std::vector<RunningApplication> running_{{"com.orken.test", "ORKEN", std::make_shared<char>()}};
 };
 
 class SimulatedHardware final : public HardwareRegistry {

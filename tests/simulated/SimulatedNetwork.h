@@ -16,7 +16,6 @@ struct Route {
     std::string body;
     /// An answer without a body, which this desktop alone can give.
     bool hasBody = true;
-    int statusCode = 200;
     /// There is no answer at all.
     std::optional<PlatformError> error;
     Seconds delay{0};
@@ -32,11 +31,8 @@ public:
     void startDataTask(const std::string& url, std::function<void(DataTaskResult)> completion) override
     {
         const Route route = request(url);
-        DataTaskResult result{.error = route.error};
-        if (!route.error) {
-            result.data = route.hasBody ? std::optional(toBytes(route.body)) : std::nullopt;
-            result.response = UrlResponse{.statusCode = route.statusCode, .mimeType = "text/plain"};
-        }
+        auto body = route.hasBody ? std::optional(toBytes(route.body)) : std::nullopt;
+        const auto result = route.error ? DataTaskResult(*route.error) : DataTaskResult(std::move(body));
         loop_.later(route.delay, [this, result, completion = std::move(completion)] {
             loop_.addBackgroundJob([result, completion] { completion(result); });
         });

@@ -5,6 +5,8 @@
 #include "simulated/MainLoop.h"
 
 #include <deque>
+#include <string>
+#include <utility>
 
 namespace orken::simulated {
 
@@ -26,8 +28,9 @@ public:
     {
         pending_.emplace_back([this, types, removed, completion = std::move(completion)] {
             for (const WebsiteDataRecord& record : removed) {
-                journal_.add("remove data of " + record.displayName + " types " + std::to_string(types));
-                std::erase_if(records, [&](const auto& one) { return one.displayName == record.displayName; });
+                const auto& site = *static_cast<std::string*>(record.handle.get());
+                journal_.add("remove data of " + site + " types " + std::to_string(types));
+                std::erase_if(records, [&](const auto& one) { return one.handle == record.handle; });
             }
             completion();
         });
@@ -43,6 +46,11 @@ public:
             step();
         }
         return worked;
+    }
+
+    void add(std::string site, WebsiteDataTypes types)
+    {
+        records.push_back({.dataTypes = types, .handle = std::make_shared<std::string>(std::move(site))});
     }
 
     std::vector<WebsiteDataRecord> records;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "linux/animation/FileDescriptor.h"
+#include "linux/loop/FileDescriptor.h"
 #include "linux/renderer/Protocol.h"
 
 #include <string>

@@ -68,7 +68,7 @@ bool startedTheClient(const Windows& windows, const SessionFacts& facts)
 
 RunningApplication describe(const Windows& windows, const SessionFacts& facts, std::optional<SystemComponent> component)
 {
-    RunningApplication application{.processIdentifier = windows.front()->processIdentifier};
+    RunningApplication application;
     for (const ClientWindow* window : windows) {
         const auto installed = facts.installedProgram(*window);
         if (installed || !window->className.empty()) {
@@ -80,7 +80,7 @@ RunningApplication describe(const Windows& windows, const SessionFacts& facts, s
             break;
         }
     }
-    if (application.processIdentifier == facts.ownProcess) {
+    if (windows.front()->processIdentifier == facts.ownProcess) {
         application.bundleIdentifier = facts.ownBundleIdentifier;
     } else if (component) {
         application.bundleIdentifier = bundleIdentifierOf(*component);
@@ -102,7 +102,7 @@ std::vector<ApplicationGroup> groupApplications(const std::vector<ClientWindow>&
         if (!isItself && (isCritical || isOwnOther || startedTheClient(group, facts))) {
             continue;
         }
-        ApplicationGroup made{.application = describe(group, facts, component)};
+        ApplicationGroup made{.application = describe(group, facts, component), .processIdentifier = process};
         for (const ClientWindow* window : group) {
             made.windows.push_back(window->id);
         }

@@ -48,6 +48,8 @@ struct SessionFacts {
 /// One application with the windows that make it up.
 struct ApplicationGroup {
     RunningApplication application;
+    /// Absent where it is not known.
+    std::optional<int> processIdentifier;
     std::vector<std::uint32_t> windows;
 };
 

@@ -12,11 +12,17 @@ namespace orken::desktop {
 
 namespace {
 
-/// What an application in the list is closed by.
+/// What an application in the list is told from the client and closed by.
 struct Handle {
+    std::optional<int> processIdentifier;
     std::vector<std::uint32_t> windows;
     bool managerCloses;
 };
+
+const Handle* handleOf(const RunningApplication& application)
+{
+    return static_cast<const Handle*>(application.handle.get());
+}
 
 /// Terminals tell the programs in them which window they are in.
 std::optional<std::uint32_t> startWindow()
@@ -44,8 +50,9 @@ std::vector<RunningApplication> X11Applications::all()
     }
     std::vector<RunningApplication> applications;
     for (auto& group : groupApplications(list->windows, factsAbout(list->windowManagerProcess))) {
-        group.application.handle =
-            std::make_shared<Handle>(Handle{.windows = std::move(group.windows), .managerCloses = list->managerCloses});
+        group.application.handle = std::make_shared<Handle>(Handle{.processIdentifier = group.processIdentifier,
+                                                                   .windows = std::move(group.windows),
+                                                                   .managerCloses = list->managerCloses});
         applications.push_back(std::move(group.application));
     }
     return applications;
@@ -53,12 +60,13 @@ std::vector<RunningApplication> X11Applications::all()
 
 bool X11Applications::isCurrent(const RunningApplication& application) const
 {
-    return application.processIdentifier == getpid();
+    const auto* handle = handleOf(application);
+    return handle && handle->processIdentifier == getpid();
 }
 
 bool X11Applications::terminate(const RunningApplication& application)
 {
-    const auto* handle = static_cast<const Handle*>(application.handle.get());
+    const auto* handle = handleOf(application);
     if (!handle || !connection_ || !connection_->isUsable()) {
         return false;
     }

@@ -16,8 +16,7 @@ WebKitWebsiteDataTypes engineTypes(WebsiteDataTypes types)
 
 WebsiteDataRecord recordOf(WebKitWebsiteData* data)
 {
-    return {.displayName = webkit_website_data_get_name(data),
-            .dataTypes = webkit_website_data_get_types(data),
+    return {.dataTypes = webkit_website_data_get_types(data),
             .handle = {data, [](void* taken) { webkit_website_data_unref(static_cast<WebKitWebsiteData*>(taken)); }}};
 }
 

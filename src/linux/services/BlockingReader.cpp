@@ -24,18 +24,18 @@ Outcome<std::string> BlockingReader::readText(const std::string& url)
     const auto interrupt = Source::onSignal(SIGINT, cancel, context.get());
 
     const auto session = makeHttpSession(options_);
-    std::optional<HttpAnswer> answer;
+    std::optional<Outcome<HttpAnswer>> answer;
     loadHttp(session.get(), url, options_.maximumBodyBytes, cancellable.get(),
-             [&answer](HttpAnswer arrived) { answer = std::move(arrived); });
+             [&answer](Outcome<HttpAnswer> arrived) { answer = std::move(arrived); });
     while (!answer) {
         g_main_context_iteration(context.get(), TRUE);
     }
     soup_session_abort(session.get());
 
-    if (answer->result.error) {
-        return *std::move(answer->result.error);
+    if (!*answer) {
+        return answer->error();
     }
-    if (auto text = decodeText(*answer->result.data, answer->charset)) {
+    if (auto text = decodeText(answer->value().body, answer->value().charset)) {
         return *std::move(text);
     }
     return platformError("text", 0, url, "the encoding of the text is not known");

@@ -34,7 +34,7 @@ GObjectPtr<SoupMessage> makeMessage(const std::string& url)
 class HttpLoad : public std::enable_shared_from_this<HttpLoad> {
 public:
     HttpLoad(SoupSession* session, std::string url, std::size_t maximumBodyBytes, GCancellable* cancellable,
-             std::function<void(HttpAnswer)> completion)
+             std::function<void(Outcome<HttpAnswer>)> completion)
         : session_(GObjectPtr<SoupSession>::share(session)), url_(std::move(url)), maximumBodyBytes_(maximumBodyBytes),
           cancellable_(GObjectPtr<GCancellable>::share(cancellable)), completion_(std::move(completion))
     {
@@ -102,20 +102,14 @@ private:
 
     void fail(const GError& error)
     {
-        HttpAnswer answer;
-        answer.result.error = platformError(g_quark_to_string(error.domain), error.code, url_, error.message);
-        completion_(std::move(answer));
+        completion_(platformError(g_quark_to_string(error.domain), error.code, url_, error.message));
     }
 
     void succeed()
     {
         GHashTable* parameters = nullptr;
-        const char* type =
-            soup_message_headers_get_content_type(soup_message_get_response_headers(message_.get()), &parameters);
-        HttpAnswer answer;
-        answer.result.data = std::move(body_);
-        answer.result.response = UrlResponse{.statusCode = static_cast<int>(soup_message_get_status(message_.get())),
-                                             .mimeType = type ? GText(g_ascii_strdown(type, -1)).get() : ""};
+        soup_message_headers_get_content_type(soup_message_get_response_headers(message_.get()), &parameters);
+        HttpAnswer answer{.body = std::move(body_)};
         if (parameters) {
             const auto* charset = static_cast<const char*>(g_hash_table_lookup(parameters, "charset"));
             if (charset && *charset) {
@@ -130,7 +124,7 @@ private:
     std::string url_;
     std::size_t maximumBodyBytes_;
     GObjectPtr<GCancellable> cancellable_;
-    std::function<void(HttpAnswer)> completion_;
+    std::function<void(Outcome<HttpAnswer>)> completion_;
     GObjectPtr<SoupMessage> message_;
     GObjectPtr<GInputStream> stream_;
     Bytes body_;
@@ -147,7 +141,7 @@ GObjectPtr<SoupSession> makeHttpSession(const HttpOptions& options)
 }
 
 void loadHttp(SoupSession* session, const std::string& url, std::size_t maximumBodyBytes, GCancellable* cancellable,
-              std::function<void(HttpAnswer)> completion)
+              std::function<void(Outcome<HttpAnswer>)> completion)
 {
     std::make_shared<HttpLoad>(session, url, maximumBodyBytes, cancellable, std::move(completion))->start();
 }

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "foundation/Bytes.h"
+#include "foundation/Outcome.h"
 #include "linux/loop/GObjectPtr.h"
 #include "linux/services/HttpOptions.h"
-#include "platform/UrlSession.h"
 
 #include <libsoup/soup.h>
 
@@ -13,7 +14,7 @@
 namespace orken::desktop {
 
 struct HttpAnswer {
-    DataTaskResult result;
+    Bytes body;
     /// `charset` parameter of the content type as the server wrote it.
     std::optional<std::string> charset;
 };
@@ -24,6 +25,6 @@ struct HttpAnswer {
 /// One GET in the thread-default context. The completion runs exactly once on this thread: at once when `url` is not an
 /// http or https address, otherwise in a turn of the context. Cancelled, it is an error soon.
 void loadHttp(SoupSession* session, const std::string& url, std::size_t maximumBodyBytes, GCancellable* cancellable,
-              std::function<void(HttpAnswer)> completion);
+              std::function<void(Outcome<HttpAnswer>)> completion);
 
 } // namespace orken::desktop

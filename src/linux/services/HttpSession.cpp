@@ -31,10 +31,10 @@ public:
     {
         queue_.async([this, url = std::move(url), completion = std::move(completion)] {
             ++loads_;
-            auto answered = [this, completion](HttpAnswer answer) {
+            auto answered = [this, completion](Outcome<HttpAnswer> answer) {
                 --loads_;
                 if (!quit_) {
-                    completion(std::move(answer.result));
+                    completion(answer ? DataTaskResult(std::move(answer).value().body) : answer.error());
                 }
             };
             loadHttp(session_.get(), url, options_.maximumBodyBytes, cancellable_.get(), std::move(answered));

@@ -1,5 +1,7 @@
 #include "linux/services/LocalFiles.h"
 
+#include "linux/loop/FileDescriptor.h"
+
 #include <glib.h>
 
 #include <cerrno>
@@ -23,27 +25,6 @@ PlatformError lastError(const fs::path& item)
 {
     return posixError(item, std::error_code(errno, std::generic_category()));
 }
-
-/// Closes at the end of its scope; an error of that is of no interest to a reader.
-class OpenFile {
-public:
-    OpenFile(const fs::path& file, int flags) : descriptor_(::open(file.c_str(), flags | O_CLOEXEC | O_NONBLOCK)) {}
-
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
-
-    ~OpenFile()
-    {
-        if (descriptor_ >= 0) {
-            ::close(descriptor_);
-        }
-    }
-
-    [[nodiscard]] int descriptor() const { return descriptor_; }
-
-private:
-    int descriptor_;
-};
 
 /// Up to the end or until there is more than `limit`; false with `errno` set when reading fails.
 bool readAll(int file, std::size_t limit, Bytes& content)
@@ -136,14 +117,14 @@ Outcome<void> LocalFiles::createDirectory(const fs::path& directory)
 
 Outcome<Bytes> LocalFiles::readFile(const fs::path& file, std::size_t limit) const
 {
-    const OpenFile opened(file, O_RDONLY);
-    if (opened.descriptor() < 0) {
+    const FileDescriptor opened(::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    if (!opened) {
         return lastError(file);
     }
 
     struct stat status {};
 
-    if (::fstat(opened.descriptor(), &status) != 0) {
+    if (::fstat(opened.get(), &status) != 0) {
         return lastError(file);
     }
     if (!S_ISREG(status.st_mode)) {
@@ -152,7 +133,7 @@ Outcome<Bytes> LocalFiles::readFile(const fs::path& file, std::size_t limit) con
         return lastError(file);
     }
     Bytes content;
-    if (!readAll(opened.descriptor(), limit, content)) {
+    if (!readAll(opened.get(), limit, content)) {
         return lastError(file);
     }
     return content;
@@ -176,17 +157,9 @@ Outcome<void> LocalFiles::writeFile(const fs::path& file, const Bytes& content)
     // Non-blocking: a pipe in the file's place is an error, not a wait for its reader.
     constexpr int kFlags = O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
     constexpr mode_t kMode = 0666;
-    const int opened = ::open(file.c_str(), kFlags, kMode);
-    if (opened < 0) {
-        return lastError(file);
-    }
-    if (!writeAll(opened, content)) {
-        auto error = lastError(file);
-        ::close(opened);
-        return error;
-    }
-    // Some file systems tell only here that there was no room.
-    if (::close(opened) != 0) {
+    FileDescriptor opened(::open(file.c_str(), kFlags, kMode));
+    // Some file systems tell only at the closing that there was no room.
+    if (!opened || !writeAll(opened.get(), content) || !opened.close()) {
         return lastError(file);
     }
     return {};

@@ -6,7 +6,7 @@
 
 namespace orken::desktop {
 
-/// Owns a descriptor; -1 is none.
+/// Owns a descriptor, which is negative where there is none.
 class FileDescriptor {
 public:
     FileDescriptor() = default;
@@ -24,11 +24,13 @@ public:
     FileDescriptor(const FileDescriptor&) = delete;
     FileDescriptor& operator=(const FileDescriptor&) = delete;
 
-    ~FileDescriptor()
+    ~FileDescriptor() { (void)close(); }
+
+    /// False, with `errno` set, for an error that the system tells only now.
+    [[nodiscard]] bool close()
     {
-        if (descriptor_ >= 0) {
-            close(descriptor_);
-        }
+        const int descriptor = std::exchange(descriptor_, -1);
+        return descriptor < 0 || ::close(descriptor) == 0;
     }
 
     [[nodiscard]] int get() const { return descriptor_; }
