@@ -53,11 +53,6 @@ TEST(Modifiers, anInnerFontOrColourWinsOverAnOuterOne)
     EXPECT_EQ(stack.children()[1].modifiers().foreground, Color::destructive());
 }
 
-TEST(Modifiers, opacitiesMultiply)
-{
-    EXPECT_EQ(Text("").opacity(0.5).opacity(0.5).modifiers().opacity, 0.25);
-}
-
 TEST(Modifiers, whatIsDisabledInsideStaysDisabled)
 {
     EXPECT_FALSE(Text("").disabled(true).disabled(false).modifiers().enabled);
