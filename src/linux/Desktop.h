@@ -66,12 +66,13 @@ public:
     DesktopWorkspace workspace;
     X11Applications runningApplications;
     MachineHardware hardware;
+    DesktopAnimationSurfaces animationSurfaces;
+    /// Its background queue has documents prepared by the surfaces.
     HttpSession urlSession;
     BlockingReader contentsReader;
     LazyEngine engine;
     DesktopWindows windows{notifications, alertGate_, keyMonitors};
     DesktopScreens screens;
-    DesktopAnimationSurfaces animationSurfaces;
     DesktopAlerts alerts{alertStack_, windows, alertGate_};
     DesktopApplication application;
 };

@@ -1,5 +1,6 @@
 #include "linux/gtk/DesktopAnimationSurface.h"
 
+#include "linux/animation/RlottieDocument.h"
 #include "linux/services/InstalledFolders.h"
 
 #include <algorithm>
@@ -250,6 +251,11 @@ PicturePlace DesktopAnimationSurface::place() const
     return mode_ == LottieContentMode::scaleAspectFit
                ? PicturePlace{.picture = rectangle(frame_), .clip = rectangle(drawn)}
                : PicturePlace{.picture = rectangle(drawn), .clip = rectangle(frame_)};
+}
+
+Outcome<AnimationDocument> DesktopAnimationSurfaces::prepare(AnimationDocument document) const
+{
+    return rlottieDocument(std::move(document));
 }
 
 std::shared_ptr<AnimationSurface> DesktopAnimationSurfaces::make(Size size)

@@ -86,6 +86,7 @@ private:
 
 class DesktopAnimationSurfaces final : public AnimationSurfaces {
 public:
+    [[nodiscard]] Outcome<AnimationDocument> prepare(AnimationDocument document) const override;
     [[nodiscard]] std::shared_ptr<AnimationSurface> make(Size size) override;
 };
 
