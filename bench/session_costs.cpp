@@ -134,6 +134,11 @@ class TimedSurfaces final : public AnimationSurfaces {
 public:
     TimedSurfaces(AnimationSurfaces& surfaces, std::vector<double>& times) : surfaces_(surfaces), ticks(times) {}
 
+    [[nodiscard]] Outcome<AnimationDocument> prepare(AnimationDocument document) const override
+    {
+        return surfaces_.prepare(std::move(document));
+    }
+
     [[nodiscard]] std::shared_ptr<AnimationSurface> make(Size size) override
     {
         return std::make_shared<TimedSurface>(surfaces_.make(size), ticks);
@@ -234,11 +239,11 @@ int main(int count, char** arguments)
     alarm(kPatience);
     std::ifstream file(arguments[1]);
     const std::string text{std::istreambuf_iterator<char>(file), {}};
-    std::optional<AnimationDocument> document;
-    const double check = costOf([&] { document = checkAnimationDocument(text).value(); });
 
     gtk_init();
     desktop::Desktop desktop({.bundleIdentifier = "com.orken.bench", .version = "1.0"});
+    std::optional<AnimationDocument> document;
+    const double check = costOf([&] { document = usableAnimationDocument(text, desktop.animationSurfaces).value(); });
     auto passes = measurePasses(desktop);
     const auto [ticks, perSecond] = measureTicks(desktop, std::filesystem::absolute(arguments[1]));
     const auto frames = measureFrames(document->json);

@@ -1,6 +1,7 @@
 #include "DocumentMutator.h"
 #include "animation/DocumentChecker.h"
 #include "linux/animation/RendererProcess.h"
+#include "linux/animation/RlottieDocument.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -106,7 +107,8 @@ private:
     {
         Visit visit;
         const Seconds worked = processorTime();
-        const auto usable = checkAnimationDocument(document);
+        const auto checked = checkAnimationDocument(document);
+        const auto usable = checked ? desktop::rlottieDocument(checked.value()) : checked;
         visit.longest = processorTime() - worked;
         if (!usable) {
             return visit;

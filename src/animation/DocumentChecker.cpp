@@ -1,8 +1,6 @@
 #include "animation/DocumentChecker.h"
 
 #include "animation/DocumentReader.h"
-#include "animation/DocumentTimes.h"
-#include "animation/DocumentWriter.h"
 #include "animation/LayerCount.h"
 
 #include <algorithm>
@@ -18,7 +16,7 @@ namespace {
 
 using Json = nlohmann::json;
 
-constexpr double kLargestNumber = 32768;
+constexpr double kLargestNumber = AnimationDocument::kLargestNumber;
 constexpr double kLargestExtent = 8192;
 constexpr double kLargestFrameRate = 240;
 constexpr double kMostFrames = 36000;
@@ -108,42 +106,38 @@ bool hasTooManyCopies(const Json& object)
     });
 }
 
-void mendLayers(Json& owner)
+/// Pictures are left out of the document.
+void emptyImageLayers(Json& owner)
 {
     const auto layers = owner.find("layers");
     if (layers == owner.end() || !layers->is_array()) {
         return;
     }
     for (Json& layer : *layers) {
-        if (!layer.is_object()) {
-            continue;
-        }
         // A layer without its picture keeps its place: others count on it.
         if (numberOf(layer, "ty") == kImageLayer) {
             layer["ty"] = kNullLayer;
             layer.erase("refId");
         }
-        // Where it is not said to be flat, the renderer takes it for three-dimensional and does not turn it.
-        layer.emplace("ddd", 0);
     }
 }
 
-/// Mends what can be mended everywhere in the document; says what cannot.
-std::optional<PlatformError> mendValues(Json& value)
+/// Brings what can be brought within bounds there, everywhere in the document; says what cannot.
+std::optional<PlatformError> boundValues(Json& value)
 {
     if (value.is_number() && !(std::abs(value.get<double>()) <= kLargestNumber)) {
         return unusableAnimation("a number is too large");
     }
     if (value.is_object()) {
         clampEasing(value);
-        mendLayers(value);
+        emptyImageLayers(value);
         if (hasTooManyCopies(value)) {
             return unusableAnimation("a repeater makes too many copies");
         }
     }
     if (value.is_structured()) {
         for (Json& item : value) {
-            if (auto error = mendValues(item)) {
+            if (auto error = boundValues(item)) {
                 return error;
             }
         }
@@ -151,7 +145,7 @@ std::optional<PlatformError> mendValues(Json& value)
     return std::nullopt;
 }
 
-/// What layers call a composition by: a text, or a number that the renderer takes for one. Absent when it is neither.
+/// What layers call a composition by: a text, or a number that stands for one. Absent when it is neither.
 std::optional<std::string> nameOf(const Json& composition)
 {
     const Json* id = member(composition, "id");
@@ -188,6 +182,15 @@ void dropFileAssets(Json& root)
     *assets = std::move(kept);
 }
 
+/// Cuts the first and the end frame to whole ones. Returns the number of frames, which may be 0 or less.
+double useWholeFrames(Json& root)
+{
+    for (const char* key : {"ip", "op"}) {
+        root[key] = static_cast<std::int64_t>(std::floor(root[key].get<double>()));
+    }
+    return root["op"].get<double>() - root["ip"].get<double>();
+}
+
 } // namespace
 
 Outcome<AnimationDocument> checkAnimationDocument(std::string_view document)
@@ -205,7 +208,7 @@ Outcome<AnimationDocument> checkAnimationDocument(std::string_view document)
         !isWithin(frameRate, 1, kLargestFrameRate) || !layers || !layers->is_array()) {
         return unusableAnimation("no composition of a usable size and frame rate");
     }
-    // Also because they are counted by following them: no chain is longer than the stack is deep.
+    // Layers are counted by following compositions from one to the next, as deep as the stack allows.
     if (const Json* assets = member(root, "assets"); assets && assets->size() > kMostAssets) {
         return unusableAnimation("too many compositions");
     }
@@ -214,22 +217,27 @@ Outcome<AnimationDocument> checkAnimationDocument(std::string_view document)
         !isWithin(numberOf(root, "op"), -kLargestNumber, kLargestNumber)) {
         return unusableAnimation("no usable first and last frame");
     }
-    const auto frames = useWholeFrames(root);
-    // Times that were moved count as they are now.
-    if (auto error = mendValues(root)) {
+    const double frames = useWholeFrames(root);
+    if (auto error = boundValues(root)) {
         return *error;
     }
-    if (!frames || *frames < 1 || *frames > kMostFrames) {
+    if (frames < 1 || frames > kMostFrames) {
         return unusableAnimation("no usable number of frames");
     }
     if (!hasUsableLayerCount(root)) {
         return unusableAnimation("too many layers");
     }
-    AnimationDocument usable{.json = writeAnimationDocument(root),
+    AnimationDocument usable{.json = root.dump(),
                              .size = {.width = *width, .height = *height},
                              .frameRate = *frameRate,
-                             .frameCount = static_cast<int>(*frames)};
+                             .frameCount = static_cast<int>(frames)};
     return usable;
+}
+
+Outcome<AnimationDocument> usableAnimationDocument(std::string_view document, const AnimationSurfaces& surfaces)
+{
+    auto checked = checkAnimationDocument(document);
+    return checked ? surfaces.prepare(std::move(checked).value()) : checked;
 }
 
 } // namespace orken

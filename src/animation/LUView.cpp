@@ -6,13 +6,13 @@ namespace orken {
 
 namespace {
 
-std::optional<AnimationDocument> readDocument(const Files& files, const std::filesystem::path& file)
+std::optional<AnimationDocument> readDocument(const AnimationServices& services, const std::filesystem::path& file)
 {
-    const auto content = files.readFile(file, kLargestAnimationDocument);
+    const auto content = services.files.readFile(file, kLargestAnimationDocument);
     if (!content) {
         return std::nullopt;
     }
-    auto document = checkAnimationDocument(asText(content.value()));
+    auto document = usableAnimationDocument(asText(content.value()), services.surfaces);
     return document ? std::optional(std::move(document).value()) : std::nullopt;
 }
 
@@ -81,8 +81,7 @@ void LUView::load(const LULoadType::FilePath& source, const std::shared_ptr<LUSt
 
 void LUView::loadFile(const std::filesystem::path& file, const std::shared_ptr<LUStateData>& state)
 {
-    configure(LottieAnimationView::ofAnimation(readDocument(services_.files, file), surface_, services_.mainQueue),
-              *state);
+    configure(LottieAnimationView::ofAnimation(readDocument(services_, file), surface_, services_.mainQueue), *state);
     notifyDownloaded(state, true);
     if (!state->isControlEnabled) {
         playLater(state, [&queue = services_.mainQueue, state](bool finished) {
@@ -99,8 +98,8 @@ void LUView::load(const LULoadType::LoadedFrom& source, const std::shared_ptr<LU
             self->playLater(state, [state](bool finished) { state->onCompleted.send(finished); });
         }
     };
-    configure(LottieAnimationView::ofUrl(source.url, services_.urlSession, std::move(downloaded), surface_,
-                                         services_.mainQueue),
+    configure(LottieAnimationView::ofUrl(source.url, services_.urlSession, std::move(downloaded), services_.surfaces,
+                                         surface_, services_.mainQueue),
               *state);
 }
 

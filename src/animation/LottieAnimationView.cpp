@@ -15,12 +15,12 @@ PlatformError cannotBeShown()
     return platformError("animation", 1, "", "the animation cannot be shown");
 }
 
-Outcome<AnimationDocument> documentOf(const DataTaskResult& result)
+Outcome<AnimationDocument> documentOf(const DataTaskResult& result, const AnimationSurfaces& surfaces)
 {
     if (!result || !result.value()) {
         return result ? cannotBeShown() : result.error();
     }
-    return checkAnimationDocument(asText(*result.value()));
+    return usableAnimationDocument(asText(*result.value()), surfaces);
 }
 
 } // namespace
@@ -46,15 +46,16 @@ std::shared_ptr<LottieAnimationView> LottieAnimationView::ofAnimation(std::optio
 
 std::shared_ptr<LottieAnimationView> LottieAnimationView::ofUrl(const std::string& url, UrlSession& session,
                                                                 DownloadClosure closure,
+                                                                const AnimationSurfaces& surfaces,
                                                                 std::shared_ptr<AnimationSurface> surface,
                                                                 MainQueue& mainQueue)
 {
     auto view = std::make_shared<LottieAnimationView>(std::move(surface), mainQueue);
     // What belongs to the main thread is handed on as it is: the background queue must not be the last to hold it.
-    auto completion = [view = std::weak_ptr(view), closure = std::move(closure),
+    auto completion = [view = std::weak_ptr(view), closure = std::move(closure), &surfaces,
                        &mainQueue](const DataTaskResult& result) mutable {
         mainQueue.async(
-            [view = std::move(view), closure = std::move(closure), document = documentOf(result)]() mutable {
+            [view = std::move(view), closure = std::move(closure), document = documentOf(result, surfaces)]() mutable {
                 if (const auto alive = view.lock()) {
                     alive->documentArrived(std::move(document), std::move(closure));
                 } else {

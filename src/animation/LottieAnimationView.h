@@ -34,12 +34,11 @@ public:
                                                                           std::shared_ptr<AnimationSurface> surface,
                                                                           MainQueue& mainQueue);
 
-    /// A view at once. The document is fetched and checked in the background; the closure is called once, on the main
-    /// thread, when its first frame has been drawn or it has turned out to be unusable.
-    [[nodiscard]] static std::shared_ptr<LottieAnimationView> ofUrl(const std::string& url, UrlSession& session,
-                                                                    DownloadClosure closure,
-                                                                    std::shared_ptr<AnimationSurface> surface,
-                                                                    MainQueue& mainQueue);
+    /// A view at once. The document is fetched, checked and prepared for `surfaces` in the background; the closure is
+    /// called once, on the main thread, when its first frame has been drawn or it has turned out to be unusable.
+    [[nodiscard]] static std::shared_ptr<LottieAnimationView>
+    ofUrl(const std::string& url, UrlSession& session, DownloadClosure closure, const AnimationSurfaces& surfaces,
+          std::shared_ptr<AnimationSurface> surface, MainQueue& mainQueue);
 
     /// Takes the surface, which whatever was on it has left.
     void addToSuperview();

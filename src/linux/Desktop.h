@@ -66,6 +66,8 @@ public:
     DesktopWorkspace workspace;
     X11Applications runningApplications;
     MachineHardware hardware;
+    DesktopAnimationSurfaces animationSurfaces;
+    /// Its background queue has documents prepared by the surfaces.
     HttpSession urlSession;
     BlockingReader contentsReader;
     CookieStorage& cookies{urlSession};
@@ -74,7 +76,6 @@ public:
     WebsiteDataStore& websiteData{engine};
     DesktopWindows windows{notifications, alertGate_, keyMonitors};
     DesktopScreens screens;
-    DesktopAnimationSurfaces animationSurfaces;
     DesktopAlerts alerts{alertStack_, windows, alertGate_};
     DesktopApplication application;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/NonCopyable.h"
+#include "foundation/Outcome.h"
 #include "platform/Seconds.h"
 #include "view/Geometry.h"
 #include "view/Representable.h"
@@ -11,9 +12,12 @@
 
 namespace orken {
 
-/// A document that is fit for the renderer.
+/// A document within bounds: whoever draws it comes to an end.
 struct AnimationDocument {
-    /// UTF-8; the member "ty" stands first in every object.
+    /// Of any number in it, whatever its sign.
+    static constexpr double kLargestNumber = 32768;
+
+    /// JSON of the Lottie format, UTF-8. Its first and end frame ("ip" and "op") are whole.
     std::string json;
     /// Of the composition, in units of its own.
     Size size;
@@ -46,7 +50,7 @@ public:
     /// Called after each change of the bounds.
     virtual void setOnResize(std::function<void()> callback) = 0;
 
-    /// Takes the place of the document before, whose events do not come any more.
+    /// Takes the place of the document before, whose events do not come any more. The document comes from `prepare`.
     virtual void open(AnimationDocument document, Events events) = 0;
     /// Back to an empty surface; events on their way do not come any more.
     virtual void close() = 0;
@@ -65,6 +69,10 @@ public:
 class AnimationSurfaces : NonCopyable {
 public:
     virtual ~AnimationSurfaces() = default;
+
+    /// The document in the form in which this desktop's surfaces open it, or why they cannot draw it at all. Takes as
+    /// long as reading the document; any thread.
+    [[nodiscard]] virtual Outcome<AnimationDocument> prepare(AnimationDocument document) const = 0;
 
     /// A new, empty surface of this size; never null. Main thread only.
     [[nodiscard]] virtual std::shared_ptr<AnimationSurface> make(Size size) = 0;

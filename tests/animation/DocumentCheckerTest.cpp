@@ -61,7 +61,6 @@ TEST(DocumentChecker, refusesWhatTheRendererCannotBeTrustedWith)
         {"exponential compositions", doubled(30)},
         {"a chain of compositions that no stack holds", doubled(100'000)},
         {"a long one", doubled(2000)},
-        {"times that are too large once moved", R"({"w":1,"h":1,"fr":1,"ip":-10,"op":20,"layers":[{"op":32768}]})"},
     };
     for (const auto& [name, document] : cases) {
         EXPECT_FALSE(checkAnimationDocument(document)) << name;
@@ -73,41 +72,32 @@ TEST(DocumentChecker, refusesWhatTheRendererCannotBeTrustedWith)
     EXPECT_FALSE(checkAnimationDocument(with("\"x\":[" + zeros + "0]"))) << "too many values";
 }
 
-TEST(DocumentChecker, writesADocumentAsTheRendererNeedsIt)
+TEST(DocumentChecker, writesADocumentAnewWithinBounds)
 {
     const struct {
         const char* name;
         std::string document;
-        testing::Matcher<std::string> matcher;
+        std::string part;
     } cases[] = {
-        {"the type first", with(R"("b":{"a":"\u015f\"","it":[{"nm":"x","ty":"gr"}],"ty":4})"),
-         HasSubstr("\"b\":{\"ty\":4,\"a\":\"ş\\\"\",\"it\":[{\"ty\":\"gr\",\"nm\":\"x\"}]}")},
         {"pictures leave their assets", with(R"("assets":[{"id":"i","u":"../","p":"a.png","w":1,"h":1}])"),
-         HasSubstr("\"assets\":[]")},
+         "\"assets\":[]"},
         {"and their layers a gap",
          R"({"w":1,"h":1,"fr":1,"ip":0,"op":1,"layers":[{"ty":2,"refId":"i","ind":1},{"ty":4,"ddd":1,"ks":{}}]})",
-         HasSubstr(R"([{"ty":3,"ddd":0,"ind":1},{"ty":4,"ddd":1,"ks":{}}])")},
+         R"([{"ind":1,"ty":3},{"ddd":1,"ks":{},"ty":4}])"},
         {"compositions stay", with(R"("assets":[{"id":"c","p":"x","layers":[]}])"),
-         HasSubstr("\"assets\":[{\"id\":\"c\",\"layers\":[]}]")},
+         "\"assets\":[{\"id\":\"c\",\"layers\":[]}]"},
         {"one of each name", with(R"("assets":[{"id":5,"layers":[]},{"id":"5","layers":[{"refId":"5"}]}])"),
-         HasSubstr(R"("assets":[{"id":"5","layers":[]}])")},
+         R"("assets":[{"id":"5","layers":[]}])"},
         {"easing handles are cut", with(R"("k":[{"t":0,"i":{"x":[2],"y":1e7},"o":{"x":-1,"y":[-1e7,0.5]}}])"),
-         HasSubstr(R"({"i":{"x":[1.0],"y":100.0},"o":{"x":0.0,"y":[-100.0,0.5]},"t":0})")},
-        {"paths have other handles", with(R"("k":{"i":[[0,-40]],"o":[[0,40]]})"), HasSubstr("\"i\":[[0,-40]]")},
-        {"whole frames", R"({"w":1,"h":1,"fr":30,"ip":0.5,"op":59.5,"layers":[]})", HasSubstr("\"op\":59")},
-        {"a start before 0 is moved",
-         R"({"w":1,"h":1,"fr":30,"ip":-10,"op":20,"layers":[{"ip":-10,"op":20,"st":-10,)"
-         R"("ks":{"o":{"a":1,"k":[{"t":-10,"s":[0]},{"t":5,"s":[9]}]}}}],)"
-         R"("assets":[{"id":"c","layers":[{"ip":-3,"k":[{"t":-3}]}]}]})",
-         testing::AllOf(
-             HasSubstr(R"("ip":0.0,"ks":{"o":{"a":1,"k":[{"s":[0],"t":0.0},{"s":[9],"t":15.0}]}},"op":30.0)"),
-             HasSubstr(R"("layers":[{"ddd":0,"ip":-3,"k":[{"t":-3}]}])"))},
+         R"({"i":{"x":[1.0],"y":100.0},"o":{"x":0.0,"y":[-100.0,0.5]},"t":0})"},
+        {"paths have other handles", with(R"("k":{"i":[[0,-40]],"o":[[0,40]]})"), "\"i\":[[0,-40]]"},
+        {"whole frames", R"({"w":1,"h":1,"fr":30,"ip":0.5,"op":59.5,"layers":[]})", "\"op\":59"},
     };
 
     for (const auto& test : cases) {
         const auto usable = checkAnimationDocument(test.document);
         ASSERT_TRUE(usable) << test.name << ": " << usable.error().message;
-        EXPECT_THAT(usable.value().json, test.matcher) << test.name;
+        EXPECT_THAT(usable.value().json, HasSubstr(test.part)) << test.name;
         const auto again = checkAnimationDocument(usable.value().json);
         EXPECT_TRUE(again && again.value().json == usable.value().json) << test.name << " is not stable";
     }

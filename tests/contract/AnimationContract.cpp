@@ -4,7 +4,7 @@ namespace orken {
 namespace {
 
 const AnimationDocument kSquare{
-    .json = R"({"ty":"","v":"5.5.0","fr":60,"ip":0,"op":60,"w":10,"h":10,"layers":[{"ty":4,"ip":0,"op":60,"st":0,)"
+    .json = R"({"v":"5.5.0","fr":60,"ip":0,"op":60,"w":10,"h":10,"layers":[{"ty":4,"ip":0,"op":60,"st":0,)"
             R"("ks":{},"shapes":[{"ty":"rc","p":{"k":[5,5]},"s":{"k":[9,9]},"r":{"k":0}},)"
             R"({"ty":"fl","c":{"k":[1,0,0,1]},"o":{"k":100}}]}]})",
     .size = {.width = 10, .height = 10},
@@ -83,13 +83,15 @@ TEST_P(Contract, anAnimationSurfaceSaysOnceWhetherItsDocumentCanBeDrawn)
     const AnimationSurface::Events events{.opened = [&](bool usable) { opened.push_back(usable); },
                                           .failed = [] { FAIL(); }};
     surface->setPlacement({.width = 100, .height = 50}, LottieContentMode::scaleAspectFit);
-    surface->open(kSquare, events);
+    const auto document = ports.animationSurfaces.prepare(kSquare);
+    ASSERT_TRUE(document);
+    surface->open(document.value(), events);
     EXPECT_TRUE(opened.empty()) << "never at once";
     EXPECT_TRUE(runUntil([&] { return opened == std::vector{true}; }));
     surface->show(3, 4);
     surface->open({}, events);
     EXPECT_TRUE(runUntil([&] { return opened == std::vector{true, false}; }));
-    surface->open(kSquare, events);
+    surface->open(document.value(), events);
     surface->close();
     settle();
     EXPECT_EQ(opened.size(), 2U) << "a closed document says nothing";

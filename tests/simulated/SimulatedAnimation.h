@@ -139,6 +139,8 @@ class SimulatedAnimationSurfaces final : public AnimationSurfaces {
 public:
     explicit SimulatedAnimationSurfaces(MainLoop& loop) : loop_(loop) {}
 
+    [[nodiscard]] Outcome<AnimationDocument> prepare(AnimationDocument document) const override { return document; }
+
     [[nodiscard]] std::shared_ptr<AnimationSurface> make(Size size) override
     {
         loop_.requireMainThread();

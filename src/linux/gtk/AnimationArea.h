@@ -8,7 +8,7 @@
 
 namespace orken::desktop {
 
-/// Where a picture is drawn in its widget and what is seen of it, in logical pixels.
+/// Where a picture is drawn in its widget and which part of it is visible, in logical pixels.
 struct PicturePlace {
     graphene_rect_t picture{};
     graphene_rect_t clip{};

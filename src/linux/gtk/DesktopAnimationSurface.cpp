@@ -1,5 +1,6 @@
 #include "linux/gtk/DesktopAnimationSurface.h"
 
+#include "linux/animation/RlottieDocument.h"
 #include "linux/services/InstalledFolders.h"
 
 #include <algorithm>
@@ -35,13 +36,13 @@ Rect composition(Size size, const Rect& frame, LottieContentMode mode)
             .height = size.height * scale};
 }
 
-GObjectPtr<GdkTexture> textureOf(const void* pixels, int width, int height)
+GObjectPtr<GdkTexture> textureOf(const void* pixels, PixelSize size)
 {
-    const std::size_t stride = static_cast<std::size_t>(width) * renderer::kBytesPerPixel;
+    const std::size_t stride = static_cast<std::size_t>(size.width) * renderer::kBytesPerPixel;
     // A copy: the renderer draws the next frame there, and what is on the screen may be drawn again at any time.
-    GBytes* bytes = g_bytes_new(pixels, stride * static_cast<std::size_t>(height));
+    GBytes* bytes = g_bytes_new(pixels, stride * static_cast<std::size_t>(size.height));
     auto texture = GObjectPtr<GdkTexture>::adopt(
-        gdk_memory_texture_new(width, height, GDK_MEMORY_B8G8R8A8_PREMULTIPLIED, bytes, stride));
+        gdk_memory_texture_new(size.width, size.height, GDK_MEMORY_B8G8R8A8_PREMULTIPLIED, bytes, stride));
     g_bytes_unref(bytes);
     return texture;
 }
@@ -50,16 +51,11 @@ GObjectPtr<GdkTexture> textureOf(const void* pixels, int width, int height)
 
 DesktopAnimationSurface::DesktopAnimationSurface(Size size, std::filesystem::path renderer)
     : program_(std::move(renderer)), area_(GObjectPtr<GtkWidget>::share(animationAreaNew())), initialSize_(size),
-      seen_(area_.get(), [this] { seenChanged(); }), ticks_(area_.get(), [this](Seconds elapsed) {
+      visibility_(area_.get(), [this] { visibilityChanged(); }), ticks_(area_.get(), [this](Seconds elapsed) {
           const auto tick = tick_;
           tick(elapsed);
       })
 {
-    animationAreaOnResize(area_.get(), [this] {
-        if (onResize_) {
-            onResize_();
-        }
-    });
     scaleChanged_ = SignalConnection::make<void(GObject*, GParamSpec*)>(
         area_.get(), "notify::scale-factor", [this](GObject*, GParamSpec*) { requestWhatIsMissing(); });
 }
@@ -78,29 +74,23 @@ Size DesktopAnimationSurface::bounds() const
 
 void DesktopAnimationSurface::setOnResize(std::function<void()> callback)
 {
-    onResize_ = std::move(callback);
+    animationAreaOnResize(area_.get(), std::move(callback));
 }
 
 void DesktopAnimationSurface::open(AnimationDocument document, Events events)
 {
     close();
-    document_ = std::move(document);
-    events_ = std::move(events);
-    startRenderer();
-    request(pictureOf(0));
+    opened_.emplace();
+    opened_->document = std::move(document);
+    opened_->events = std::move(events);
+    request({.frame = 0, .size = pictureSize()});
 }
 
 void DesktopAnimationSurface::close()
 {
-    renderer_.reset();
-    requested_.reset();
-    document_.reset();
-    events_ = {};
-    isOpen_ = false;
-    wanted_.reset();
-    next_.reset();
-    ahead_.reset();
-    if (std::exchange(shown_, std::nullopt)) {
+    const bool hasPicture = opened_ && opened_->pipeline.shown();
+    opened_.reset();
+    if (hasPicture) {
         animationAreaShow(area_.get(), nullptr, {});
     }
 }
@@ -112,7 +102,7 @@ void DesktopAnimationSurface::setPlacement(const Rect& frame, LottieContentMode 
     }
     frame_ = frame;
     mode_ = mode;
-    if (shown_) {
+    if (opened_ && opened_->pipeline.shown()) {
         present();
         requestWhatIsMissing();
     }
@@ -120,9 +110,10 @@ void DesktopAnimationSurface::setPlacement(const Rect& frame, LottieContentMode 
 
 void DesktopAnimationSurface::show(int frame, int next)
 {
-    wanted_ = frame;
-    next_ = next;
-    requestWhatIsMissing();
+    if (opened_) {
+        opened_->pipeline.want(frame, next);
+        requestWhatIsMissing();
+    }
 }
 
 void DesktopAnimationSurface::setFrameTick(FrameTick tick)
@@ -131,80 +122,68 @@ void DesktopAnimationSurface::setFrameTick(FrameTick tick)
     startTicks();
 }
 
-void DesktopAnimationSurface::seenChanged()
+void DesktopAnimationSurface::visibilityChanged()
 {
     startTicks();
-    if (seen_.isSeen()) {
+    if (visibility_.isVisible()) {
         requestWhatIsMissing();
-    } else if (isOpen_) {
-        renderer_.reset();
-        requested_.reset();
-        ahead_.reset();
+    } else if (opened_ && opened_->hasFirstFrame) {
+        opened_->renderer.reset();
+        opened_->pipeline.rendererEnded();
     }
 }
 
 void DesktopAnimationSurface::startTicks()
 {
-    tick_&& seen_.isSeen() ? ticks_.start() : ticks_.stop();
+    tick_&& visibility_.isVisible() ? ticks_.start() : ticks_.stop();
 }
 
 void DesktopAnimationSurface::startRenderer()
 {
-    renderer_ = std::make_unique<RendererProcess>(
-        program_, document_->json,
+    opened_->renderer = std::make_unique<RendererProcess>(
+        program_, opened_->document.json,
         RendererProcess::Events{.drawn = [this] { drawn(); }, .failed = [this] { rendererFailed(); }});
 }
 
 void DesktopAnimationSurface::requestWhatIsMissing()
 {
-    if (!isOpen_ || !wanted_ || !seen_.isSeen()) {
+    if (!opened_ || !opened_->hasFirstFrame || !visibility_.isVisible()) {
         return;
     }
-    const Picture wanted = pictureOf(*wanted_);
-    if (ahead_ && ahead_->picture == wanted) {
-        shown_ = std::exchange(ahead_, std::nullopt);
+    const PixelSize size = pictureSize();
+    if (opened_->pipeline.advance(size)) {
         present();
     }
-    if (renderer_ && renderer_->isBusy()) {
-        return;
-    }
-    const Picture next = pictureOf(next_.value_or(*wanted_));
-    if (!shown_ || shown_->picture != wanted) {
-        request(wanted);
-    } else if (next != wanted && !(ahead_ && ahead_->picture == next)) {
-        request(next);
+    if (const auto missing = opened_->pipeline.missing(size)) {
+        request(*missing);
     }
 }
 
 void DesktopAnimationSurface::request(const Picture& picture)
 {
-    if (!renderer_) {
+    if (!opened_->renderer) {
         startRenderer();
     }
-    requested_ = picture;
-    renderer_->request({.frame = static_cast<std::uint32_t>(picture.frame),
-                        .width = static_cast<std::uint32_t>(picture.width),
-                        .height = static_cast<std::uint32_t>(picture.height)});
+    opened_->pipeline.requested(picture);
+    opened_->renderer->request({.frame = static_cast<std::uint32_t>(picture.frame),
+                                .width = static_cast<std::uint32_t>(picture.size.width),
+                                .height = static_cast<std::uint32_t>(picture.size.height)});
 }
 
 void DesktopAnimationSurface::drawn()
 {
     const auto self = shared_from_this();
-    const Picture picture = *std::exchange(requested_, std::nullopt);
-    if (!isOpen_) {
-        isOpen_ = true;
-        const auto opened = std::exchange(events_.opened, nullptr);
-        if (!seen_.isSeen()) {
-            renderer_.reset();
+    const Picture picture = opened_->pipeline.answered();
+    if (!opened_->hasFirstFrame) {
+        opened_->hasFirstFrame = true;
+        const auto opened = std::exchange(opened_->events.opened, nullptr);
+        if (!visibility_.isVisible()) {
+            opened_->renderer.reset();
         }
         opened(true);
         return;
     }
-    Drawn drawn{.picture = picture, .texture = textureOf(renderer_->pixels(), picture.width, picture.height)};
-    if (next_ && picture == pictureOf(*next_) && picture.frame != *wanted_) {
-        ahead_ = std::move(drawn);
-    } else {
-        shown_ = std::move(drawn);
+    if (opened_->pipeline.take(picture, textureOf(opened_->renderer->pixels(), picture.size), pictureSize())) {
         present();
     }
     requestWhatIsMissing();
@@ -213,10 +192,10 @@ void DesktopAnimationSurface::drawn()
 void DesktopAnimationSurface::rendererFailed()
 {
     const auto self = shared_from_this();
-    const bool wasOpen = isOpen_;
-    const Events events = std::exchange(events_, {});
+    const bool hadFirstFrame = opened_->hasFirstFrame;
+    const Events events = std::exchange(opened_->events, {});
     close();
-    if (wasOpen) {
+    if (hadFirstFrame) {
         events.failed();
     } else {
         events.opened(false);
@@ -225,31 +204,37 @@ void DesktopAnimationSurface::rendererFailed()
 
 void DesktopAnimationSurface::present()
 {
-    animationAreaShow(area_.get(), shown_->texture.get(), place());
+    animationAreaShow(area_.get(), opened_->pipeline.shown()->get(), place());
 }
 
-DesktopAnimationSurface::Picture DesktopAnimationSurface::pictureOf(int frame) const
+PixelSize DesktopAnimationSurface::pictureSize() const
 {
     const Rect space = frame_.width > 0 && frame_.height > 0
                            ? frame_
                            : Rect{.x = 0, .y = 0, .width = kTrialExtent, .height = kTrialExtent};
     // Where all of it is seen, the renderer centres it in the whole frame, which has whole pixels.
-    const Rect drawn = mode_ == LottieContentMode::scaleAspectFit ? space : composition(document_->size, space, mode_);
+    const Rect drawn =
+        mode_ == LottieContentMode::scaleAspectFit ? space : composition(opened_->document.size, space, mode_);
     const double scale = gtk_widget_get_scale_factor(area_.get());
     const double shrink = std::min(1.0, kLargestExtent / (std::max(drawn.width, drawn.height) * scale));
     const auto pixels = [&](double length) {
         return std::max(1, static_cast<int>(std::min(std::round(length * scale * shrink), kLargestExtent)));
     };
-    return {.frame = frame, .width = pixels(drawn.width), .height = pixels(drawn.height)};
+    return {.width = pixels(drawn.width), .height = pixels(drawn.height)};
 }
 
 PicturePlace DesktopAnimationSurface::place() const
 {
     // The renderer does not cut what leaves the composition.
-    const Rect drawn = composition(document_->size, frame_, mode_);
+    const Rect drawn = composition(opened_->document.size, frame_, mode_);
     return mode_ == LottieContentMode::scaleAspectFit
                ? PicturePlace{.picture = rectangle(frame_), .clip = rectangle(drawn)}
                : PicturePlace{.picture = rectangle(drawn), .clip = rectangle(frame_)};
+}
+
+Outcome<AnimationDocument> DesktopAnimationSurfaces::prepare(AnimationDocument document) const
+{
+    return rlottieDocument(std::move(document));
 }
 
 std::shared_ptr<AnimationSurface> DesktopAnimationSurfaces::make(Size size)

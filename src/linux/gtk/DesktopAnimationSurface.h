@@ -1,5 +1,6 @@
 #pragma once
 
+#include "linux/animation/FramePipeline.h"
 #include "linux/animation/RendererProcess.h"
 #include "linux/gtk/AnimationArea.h"
 #include "linux/gtk/FrameTicks.h"
@@ -13,7 +14,7 @@
 namespace orken::desktop {
 
 /// A widget whose frames are drawn by a renderer of its own, one ahead of the screen. The renderer runs from the
-/// opening of a document and as long as the widget can be seen. Main thread only.
+/// opening of a document and as long as the widget is visible. Main thread only.
 class DesktopAnimationSurface final : public AnimationSurface,
                                       public WidgetView,
                                       public std::enable_shared_from_this<DesktopAnimationSurface> {
@@ -36,20 +37,16 @@ public:
     void setFrameTick(FrameTick tick) override;
 
 private:
-    /// A frame in a size in device pixels.
-    struct Picture {
-        int frame = 0;
-        int width = 0;
-        int height = 0;
-        bool operator==(const Picture&) const = default;
+    struct Opened {
+        AnimationDocument document;
+        Events events;
+        /// Runs while the first frame is awaited, and afterwards as long as the widget is visible.
+        std::unique_ptr<RendererProcess> renderer;
+        bool hasFirstFrame = false;
+        FramePipeline<GObjectPtr<GdkTexture>> pipeline;
     };
 
-    struct Drawn {
-        Picture picture;
-        GObjectPtr<GdkTexture> texture;
-    };
-
-    void seenChanged();
+    void visibilityChanged();
     void startTicks();
     void startRenderer();
     void requestWhatIsMissing();
@@ -57,35 +54,25 @@ private:
     void drawn();
     void rendererFailed();
     void present();
-    [[nodiscard]] Picture pictureOf(int frame) const;
+    /// In which the document's frames are drawn.
+    [[nodiscard]] PixelSize pictureSize() const;
     [[nodiscard]] PicturePlace place() const;
 
     std::filesystem::path program_;
     GObjectPtr<GtkWidget> area_;
     Size initialSize_;
-    std::function<void()> onResize_;
     FrameTick tick_;
-
-    std::optional<AnimationDocument> document_;
-    Events events_;
-    bool isOpen_ = false;
     Rect frame_;
     LottieContentMode mode_ = LottieContentMode::scaleAspectFit;
-
-    std::unique_ptr<RendererProcess> renderer_;
-    std::optional<Picture> requested_;
-    std::optional<int> wanted_;
-    std::optional<int> next_;
-    std::optional<Drawn> shown_;
-    std::optional<Drawn> ahead_;
-
-    VisibilityWatch seen_;
+    std::optional<Opened> opened_;
+    VisibilityWatch visibility_;
     FrameTicks ticks_;
     SignalConnection scaleChanged_;
 };
 
 class DesktopAnimationSurfaces final : public AnimationSurfaces {
 public:
+    [[nodiscard]] Outcome<AnimationDocument> prepare(AnimationDocument document) const override;
     [[nodiscard]] std::shared_ptr<AnimationSurface> make(Size size) override;
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Seconds.h"
+#include "linux/animation/FrameLimiter.h"
 
 #include <gtk/gtk.h>
 
@@ -24,15 +24,10 @@ public:
     void stop();
 
 private:
-    void came(gint64 frameTime);
-
     GtkWidget* widget_;
     std::function<void(Seconds)> tick_;
     guint callback_ = 0;
-    /// Of the last call, in microseconds of the frame clock; 0 before the first.
-    gint64 last_ = 0;
-    /// When the next one is wanted.
-    gint64 due_ = 0;
+    FrameLimiter limiter_;
 };
 
 } // namespace orken::desktop

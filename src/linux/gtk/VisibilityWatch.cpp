@@ -35,7 +35,7 @@ void VisibilityWatch::mapped()
     surroundings_.clear();
     const auto watch = [this](gpointer object, const char* signal) {
         surroundings_.push_back(SignalConnection::make<void(GObject*, GParamSpec*)>(
-            object, signal, [this](GObject*, GParamSpec*) { look(); }));
+            object, signal, [this](GObject*, GParamSpec*) { update(); }));
     };
     for (GtkWidget* place = widget_; place; place = gtk_widget_get_parent(place)) {
         watch(place, "notify::opacity");
@@ -43,24 +43,24 @@ void VisibilityWatch::mapped()
     if (GdkSurface* surface = surfaceOf(widget_); surface && GDK_IS_TOPLEVEL(surface)) {
         watch(surface, "notify::state");
     }
-    look();
+    update();
 }
 
 void VisibilityWatch::unmapped()
 {
     surroundings_.clear();
-    look();
+    update();
 }
 
-void VisibilityWatch::look()
+void VisibilityWatch::update()
 {
-    const bool isSeen = canBeSeen();
-    if (std::exchange(isSeen_, isSeen) != isSeen) {
+    const bool isVisible = currentVisibility();
+    if (std::exchange(isVisible_, isVisible) != isVisible) {
         changed_();
     }
 }
 
-bool VisibilityWatch::canBeSeen() const
+bool VisibilityWatch::currentVisibility() const
 {
     for (GtkWidget* place = widget_; place; place = gtk_widget_get_parent(place)) {
         if (gtk_widget_get_opacity(place) <= 0) {

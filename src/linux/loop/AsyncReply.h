@@ -12,7 +12,7 @@ namespace orken::desktop {
 ///
 ///     something_async(object, cancellable, AsyncReply::call, AsyncReply::of([](GAsyncResult* result) { ... }));
 ///
-/// The callable outlives its maker and has to look at a weak handle before it touches it.
+/// The callable may outlive its maker: before it touches that, it asks an `Alive` or a weak pointer.
 class AsyncReply {
 public:
     using Ready = std::function<void(GAsyncResult*)>;
