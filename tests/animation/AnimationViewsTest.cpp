@@ -37,11 +37,6 @@ private:
     AnimationServices services_;
 };
 
-class Nothing final : public View {
-public:
-    [[nodiscard]] Element body() override { return {}; }
-};
-
 struct Bed {
     explicit Bed(LULoadType type, LottieLoopMode loopMode = LottieLoopMode::playOnce(), bool isControlEnabled = false,
                  LUContentMode contentMode = LUContentMode::fit)
@@ -51,6 +46,10 @@ struct Bed {
         desktop.network.routes[kUrl] = {.body = kDocument, .delay = Seconds{1}};
         desktop.files.addFile("/resources/wait.json", kDocument);
         desktop.files.addFile("/elsewhere/wait.json", kDocument);
+        desktop.loop.addSource([this] {
+            desktop.loop.runBackground();
+            return false;
+        });
     }
 
     void show(double value = 0)
@@ -58,16 +57,12 @@ struct Bed {
         auto note = [this](const char* event) {
             return [this, event](bool flag) { events.push_back(std::string(event) + (flag ? " true" : " false")); };
         };
-        const AnimationServices services{
-            desktop.animationSurfaces, desktop.network, desktop.loop, desktop.files, desktop.bundle,
-            desktop.notifications};
-        auto content =
-            std::make_unique<Screen>(LottieView::Values{state, note("completed"), note("downloaded"), value}, services);
+        auto content = std::make_unique<Screen>(LottieView::Values{state, note("completed"), note("downloaded"), value},
+                                                animationServices(portsOf(desktop)));
         screen = content.get();
-        window->makeKeyAndOrderFront();
         window->setContentView(std::move(content));
         run(Seconds{0});
-        desktop.windows.find("")->content().layOut({.width = 300, .height = 300});
+        window->content().layOut({.width = 300, .height = 300});
         run(Seconds{0});
     }
 
@@ -78,37 +73,27 @@ struct Bed {
         run(Seconds{0});
     }
 
-    void run(Seconds duration)
-    {
-        (void)desktop.loop.runUntil(
-            [this] {
-                desktop.loop.runBackground();
-                return false;
-            },
-            duration);
-    }
+    void run(Seconds duration) { desktop.loop.advance(duration); }
 
     [[nodiscard]] SimulatedAnimationSurface& surface() const { return *desktop.animationSurfaces.latest; }
 
     std::shared_ptr<LUStateData> state;
     std::vector<std::string> events;
     simulated::SimulatedDesktop desktop;
-    std::shared_ptr<Window> window = desktop.windows.makeWindow({.width = 640, .height = 480}, 15);
+    simulated::SimulatedWindows::WindowPtr window = desktop.windows.open("animation");
     Screen* screen = nullptr;
 };
 
 TEST(AnimationState, isEqualWhenItDescribesTheSame)
 {
-    const auto make = [](LULoadType type, std::optional<LUProgressRange> range, double speed = 1) {
+    const auto make = [](LULoadType type, std::optional<LUProgressRange> range = {}, double speed = 1) {
         return LUStateData(std::move(type), speed, LottieLoopMode::loop(), range, false, LUContentMode::fit);
     };
-    const auto mainBundle = ResourceBundle::main();
-    EXPECT_TRUE(LUStateData() == make(LULoadType::name("", mainBundle), std::nullopt));
-    EXPECT_TRUE(make(LULoadType::loadedFrom(kUrl), LUProgressRange{0, 1}) ==
-                make(LULoadType::loadedFrom(kUrl), std::nullopt));
-    EXPECT_FALSE(make(LULoadType::loadedFrom(kUrl), {}) == make(LULoadType::filepath(kUrl), {}));
-    EXPECT_FALSE(make(LULoadType::name("", ResourceBundle::at("/b")), {}) == LUStateData());
-    EXPECT_FALSE(make(LULoadType::name("", mainBundle), {}, 2) == LUStateData());
+    EXPECT_TRUE(LUStateData() == make(LULoadType::name("", ResourceBundle::main())));
+    EXPECT_TRUE(make(LULoadType::loadedFrom(kUrl), LUProgressRange{0, 1}) == make(LULoadType::loadedFrom(kUrl)));
+    EXPECT_FALSE(make(LULoadType::loadedFrom(kUrl)) == make(LULoadType::filepath(kUrl)));
+    EXPECT_FALSE(make(LULoadType::name("", ResourceBundle::at("/b"))) == LUStateData());
+    EXPECT_FALSE(make(LULoadType::name("", ResourceBundle::main()), {}, 2) == LUStateData());
     LUStateData controlled;
     controlled.isControlEnabled = true;
     EXPECT_FALSE(controlled == LUStateData());
@@ -132,7 +117,7 @@ TEST(AnimationViews, playADownloadAfterItsFirstFrameHasBeenDrawn)
     EXPECT_TRUE(std::is_sorted(bed.surface().frames.begin(), bed.surface().frames.end()));
 }
 
-TEST(AnimationViews, tellOnceOfADownloadThatBringsNothingUsable)
+TEST(AnimationViews, tellOnceOfAnUnusableDownload)
 {
     using Renderer = SimulatedAnimationSurface::Renderer;
     const std::tuple<const char*, simulated::Route, Renderer> cases[] = {
@@ -152,7 +137,7 @@ TEST(AnimationViews, tellOnceOfADownloadThatBringsNothingUsable)
     }
 }
 
-TEST(AnimationViews, reportFilesAsLoadedWhetherOrNotTheyAreThere)
+TEST(AnimationViews, reportEvenMissingFilesAsLoaded)
 {
     const auto mainBundle = ResourceBundle::main();
     const std::tuple<LULoadType, bool> cases[] = {
@@ -212,7 +197,7 @@ TEST(AnimationViews, endThePlayOnceWhenTheRendererFailsLater)
     EXPECT_FALSE(bed.surface().isTicking());
 }
 
-TEST(AnimationViews, standStillWhileTheyCannotBeSeenAndGoOnWhereTheyWere)
+TEST(AnimationViews, goOnWhereTheyWereWhenTheyCanBeSeenAgain)
 {
     Bed bed(LULoadType::loadedFrom(kUrl), LottieLoopMode::loop());
     bed.show();
@@ -228,7 +213,7 @@ TEST(AnimationViews, standStillWhileTheyCannotBeSeenAndGoOnWhereTheyWere)
     EXPECT_LE(*bed.surface().frame - shown.back(), 1);
 }
 
-TEST(AnimationViews, fitTheirHostWhenAWindowOrTheyThemselvesAreResized)
+TEST(AnimationViews, fitTheirHostAfterAResize)
 {
     Bed bed(LULoadType::loadedFrom(kUrl));
     bed.show();
@@ -240,7 +225,7 @@ TEST(AnimationViews, fitTheirHostWhenAWindowOrTheyThemselvesAreResized)
     EXPECT_EQ(bed.surface().placement, (Rect{.width = 120, .height = 80}));
 }
 
-TEST(AnimationViews, goWithTheirScreenAndInterruptTheirPlay)
+TEST(AnimationViews, interruptTheirPlayWithTheirScreensEnd)
 {
     Bed bed(LULoadType::loadedFrom(kUrl), LottieLoopMode::loop());
     bed.show();
@@ -248,7 +233,7 @@ TEST(AnimationViews, goWithTheirScreenAndInterruptTheirPlay)
     const std::weak_ptr<SimulatedAnimationSurface> surface = std::exchange(bed.desktop.animationSurfaces.latest, {});
     std::vector<bool> completed;
     const auto kept = bed.state->onCompleted.subscribe([&](bool finished) { completed.push_back(finished); });
-    bed.window->setContentView(std::make_unique<Nothing>());
+    bed.window->dropContent();
     bed.run(Seconds{1});
     EXPECT_TRUE(surface.expired());
     EXPECT_THAT(completed, ElementsAre(false));

@@ -5,7 +5,6 @@
 #include <limits>
 
 namespace orken {
-namespace {
 
 constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInfinite = std::numeric_limits<double>::infinity();
@@ -50,7 +49,7 @@ TEST(Playback, runsThroughItsRangeAsOftenAsTheLoopModeSays)
     }
 }
 
-TEST(Playback, staysExactAndKnowsWhatComesNextAfterADayOfLooping)
+TEST(Playback, staysExactForADayOfLooping)
 {
     Playback playback({}, LottieLoopMode::loop(), Seconds{2}, 1);
     for (int frame = 0; frame < 24 * 3600 * 60; ++frame) {
@@ -61,7 +60,7 @@ TEST(Playback, staysExactAndKnowsWhatComesNextAfterADayOfLooping)
     EXPECT_TRUE(Playback({}, LottieLoopMode::loop(), Seconds{2}, 0).isStill());
 }
 
-TEST(FrameAt, givesEachFrameItsShareAndNeverOneBeyondTheLast)
+TEST(FrameAt, theLastFrameIsNeverPassed)
 {
     const std::tuple<double, int> cases[] = {{0, 0},  {0.0166, 0},     {0.017, 1}, {0.5, 30},
                                              {1, 59}, {kInfinite, 59}, {-1, 0},    {kNotANumber, 0}};
@@ -70,5 +69,4 @@ TEST(FrameAt, givesEachFrameItsShareAndNeverOneBeyondTheLast)
     }
 }
 
-} // namespace
 } // namespace orken

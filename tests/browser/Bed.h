@@ -4,6 +4,8 @@
 #include "simulated/SimulatedDesktop.h"
 #include "simulated/TestEndpoints.h"
 
+#include <gmock/gmock.h>
+
 namespace orken {
 
 /// The session's browser on a simulated desktop, with a view that has the session's navigation delegate.

@@ -1,20 +1,15 @@
 #include "browser/Bed.h"
 
-#include <gmock/gmock.h>
-
 namespace orken {
-namespace {
 
 using testing::ElementsAre;
 
 constexpr const char* kHome = "https://site.example/Home";
 constexpr const char* kLogin = "https://site.example/Account/Login";
 
-using Bed = BrowserBed;
-
-TEST(Coordinator, writesTitleThenAddressThenTheFlagForEveryFinishedPage)
+TEST(Coordinator, everyFinishedPageWritesTitleThenAddressThenFlag)
 {
-    Bed bed;
+    BrowserBed bed;
     bed.desktop.browserViews.site = {{kHome, {.title = "Home"}}, {kLogin, {}}};
     std::vector<std::string> before;
     const auto subscription = bed.model->observe([&] {
@@ -28,19 +23,13 @@ TEST(Coordinator, writesTitleThenAddressThenTheFlagForEveryFinishedPage)
     EXPECT_EQ(before.size(), 6U);
     EXPECT_EQ(bed.model->pageTitle.get(), "") << "a page without a title";
     EXPECT_EQ(bed.model->link.get(), kLogin);
-}
-
-TEST(Coordinator, aViewWithoutAddressAndTitleGivesEmptyTexts)
-{
-    Bed bed;
-    bed.coordinator->didFinishNavigation(*bed.view);
-    EXPECT_EQ(bed.model->link.get(), "");
-    EXPECT_TRUE(bed.model->didFinishLoading.get());
+    bed.coordinator->didFinishNavigation(*bed.desktop.browserViews.make());
+    EXPECT_EQ(bed.model->link.get(), "") << "a view without an address";
 }
 
 TEST(Coordinator, failuresChangeNothing)
 {
-    Bed bed;
+    BrowserBed bed;
     int writes = 0;
     const auto subscription = bed.model->observe([&] { ++writes; });
     bed.go("https://nobody.example/");
@@ -49,20 +38,26 @@ TEST(Coordinator, failuresChangeNothing)
     EXPECT_FALSE(bed.model->hasExecuted);
 }
 
-TEST(Coordinator, acceptsEveryCertificateAndCancelsEveryOtherChallenge)
+TEST(Coordinator, acceptsNoChallengeButACertificate)
 {
-    Bed bed;
-    bed.desktop.browserViews.site = {{"https://old.example/", {.redirect = kHome}},
-                                     {kHome, {.title = "Home", .untrusted = true}}};
-    bed.go("https://old.example/");
-    EXPECT_EQ(bed.model->link.get(), kHome);
+    struct Trust final : ServerTrust {
+        void setOwnExceptions() override { accepted = true; }
 
-    std::optional<ChallengeDisposition> answer;
-    bed.coordinator->didReceiveAuthenticationChallenge(*bed.view, {}, [&](auto given) { answer = given; });
-    EXPECT_EQ(answer, ChallengeDisposition::cancelAuthenticationChallenge);
+        bool accepted = false;
+    };
+
+    BrowserBed bed;
+    const auto trust = std::make_shared<Trust>();
+    std::vector<ChallengeDisposition> answers;
+    const auto answer = [&](ChallengeDisposition given) { answers.push_back(given); };
+    bed.coordinator->didReceiveAuthenticationChallenge(*bed.view, {.serverTrust = trust}, answer);
+    bed.coordinator->didReceiveAuthenticationChallenge(*bed.view, {}, answer);
+    EXPECT_TRUE(trust->accepted);
+    EXPECT_THAT(answers,
+                ElementsAre(ChallengeDisposition::useCredential, ChallengeDisposition::cancelAuthenticationChallenge));
 }
 
-TEST(Coordinator, letsEverythingThroughButBlobsAndWhatHasNoScheme)
+TEST(Coordinator, onlyBlobsAreKeptBack)
 {
     const std::tuple<std::optional<std::string>, NavigationPolicy, std::vector<std::string>> cases[] = {
         {"https://elsewhere.example/x", NavigationPolicy::allow, {"print Gelen data tipi https"}},
@@ -76,7 +71,7 @@ TEST(Coordinator, letsEverythingThroughButBlobsAndWhatHasNoScheme)
         {std::nullopt, NavigationPolicy::cancel, {}},
     };
     for (const auto& [url, policy, printed] : cases) {
-        Bed bed;
+        BrowserBed bed;
         std::vector<NavigationPolicy> answers;
         bed.coordinator->decidePolicyForNavigationAction(*bed.view, {.requestUrl = url},
                                                          [&](NavigationPolicy given) { answers.push_back(given); });
@@ -86,5 +81,4 @@ TEST(Coordinator, letsEverythingThroughButBlobsAndWhatHasNoScheme)
     }
 }
 
-} // namespace
 } // namespace orken

@@ -52,7 +52,7 @@ TEST_P(Contract, anAnimationSurfaceTicksOnlyWhileItCanBeSeen)
     EXPECT_EQ(surface->bounds(), (Size{100, 50}));
     auto content = std::make_unique<Screen>(surface);
     const auto opacity = content->opacity;
-    const auto window = ports.windows.makeWindow({.width = 640, .height = 480}, 15);
+    const auto window = makeWindow();
     window->setContentView(std::move(content));
     int ticks = 0;
     surface->setFrameTick([&](Seconds) { ++ticks; });

@@ -64,6 +64,12 @@ protected:
         desktop->launch(delegate, {.title = "start", .content = [this] { return std::make_unique<Content>(*this); }});
     }
 
+    /// An ordinary window, hidden.
+    [[nodiscard]] std::shared_ptr<Window> makeWindow()
+    {
+        return ports.windows.makeWindow({.width = 640, .height = 480}, windowStyle::kTitled | windowStyle::kResizable);
+    }
+
     [[nodiscard]] bool runUntil(const std::function<bool()>& done) { return desktop->runUntil(done, Seconds{10}); }
 
     /// Lets everything happen that is on its way.

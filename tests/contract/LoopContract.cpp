@@ -7,7 +7,7 @@ const Alert kQuestion{.title = "?", .buttons = {{.title = "Evet"}, {.title = "Ha
 
 } // namespace
 
-TEST_P(Contract, theMainQueueIsFirstInFirstOutAndNeverInline)
+TEST_P(Contract, theMainQueueIsFirstInFirstOut)
 {
     std::string log;
     ports.mainQueue.after(Seconds{0.05}, [&] { log += "e"; });
@@ -51,7 +51,7 @@ TEST_P(Contract, anAlertIsAnsweredByItsButtonsPosition)
     EXPECT_FALSE(ports.windows.all().back()->isVisible());
 }
 
-TEST_P(Contract, anAlertServesTheQueueHoldsTimersAndIsAbortedWhenItsPanelIsClosed)
+TEST_P(Contract, timersWaitUnderAnAlert)
 {
     launch();
     int fires = 0;

@@ -6,7 +6,7 @@
 
 namespace orken {
 
-TEST_P(Contract, filesAreListedWithoutTheirContentsAndRemovedWithThem)
+TEST_P(Contract, aFolderIsRemovedWithItsContents)
 {
     const auto folder = desktop->makeFolder();
     const auto listed = ports.files.contentsOfDirectory(folder);
@@ -25,7 +25,7 @@ TEST_P(Contract, filesAreListedWithoutTheirContentsAndRemovedWithThem)
     EXPECT_EQ(ports.files.contentsOfDirectory(folder).value(), std::vector<std::string>{"a"});
 }
 
-TEST_P(Contract, aRequestThatCannotBeMadeCompletesOnceWithAnErrorAndNeverInline)
+TEST_P(Contract, aRequestThatCannotBeMadeCompletesOnce)
 {
     for (const std::string& address : {desktop->refusedAddress(), std::string("ftp://a.example/"), std::string("")}) {
         std::atomic<int> completions = 0;
@@ -57,7 +57,7 @@ TEST_P(Contract, aBrowserViewHasNoPageUntilItIsGivenOneItCanParse)
     EXPECT_TRUE(runUntil([&] { return !view->url(); })) << "no address after a failed first load";
 }
 
-TEST_P(Contract, aScriptsCompletionComesOnceAndLater)
+TEST_P(Contract, aScriptCompletesOnce)
 {
     launch();
     const auto view = ports.browserViews.make();

@@ -2,7 +2,7 @@
 
 namespace orken {
 
-TEST_P(Contract, theListHoldsApplicationWindowsInOrderAndThePanelLast)
+TEST_P(Contract, thePanelIsTheLastWindowOfTheList)
 {
     launch();
     ASSERT_EQ(ports.windows.all().size(), 2U);
@@ -11,7 +11,7 @@ TEST_P(Contract, theListHoldsApplicationWindowsInOrderAndThePanelLast)
     EXPECT_TRUE(start->isVisible());
     EXPECT_FALSE(panel->isVisible());
 
-    const auto made = ports.windows.makeWindow({.width = 640, .height = 480}, 15);
+    const auto made = makeWindow();
     EXPECT_FALSE(made->isVisible());
     EXPECT_EQ(ports.windows.all(), (std::vector{start, made, panel}));
     made->makeKeyAndOrderFront();
@@ -26,10 +26,10 @@ TEST_P(Contract, theListHoldsApplicationWindowsInOrderAndThePanelLast)
         << "what the application opened itself stays in the list";
 }
 
-TEST_P(Contract, fullScreenIsToldInOrderAndIgnoresRequestsOnTheWay)
+TEST_P(Contract, fullScreenIgnoresRequestsOnTheWay)
 {
     launch();
-    const auto window = ports.windows.makeWindow({.width = 640, .height = 480}, 15);
+    const auto window = makeWindow();
     window->makeKeyAndOrderFront();
     std::string log;
     const auto tell = [&](NotificationName name, const char* letter) {
@@ -60,13 +60,13 @@ TEST_P(Contract, fullScreenIsToldInOrderAndIgnoresRequestsOnTheWay)
     EXPECT_EQ(log, "eExX") << "hidden windows and panels take no part";
 }
 
-TEST_P(Contract, contentIsDescribedAtOnceAppearsWithItsWindowAndFollowsItsState)
+TEST_P(Contract, contentAppearsWithItsWindow)
 {
     launch();
     settle();
     EXPECT_EQ(appeared, 1);
     bodies = appeared = 0;
-    const auto window = ports.windows.makeWindow({.width = 640, .height = 480}, 15);
+    const auto window = makeWindow();
     window->setContentView(std::make_unique<Content>(*this));
     EXPECT_EQ(bodies, 1);
     settle();

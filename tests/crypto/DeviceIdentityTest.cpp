@@ -15,7 +15,7 @@ struct Bed {
     DeviceIdentity identity = deviceIdentity(portsOf(desktop), simulated::kEndpoints);
 };
 
-TEST(DeviceIdentity, theSerialNumberIsTrimmedAndReadAnew)
+TEST(DeviceIdentity, theSerialNumberIsReadAnew)
 {
     Bed bed;
     EXPECT_EQ(bed.identity.platformSerialNumber(), "C02ABC123XYZ");

@@ -47,24 +47,6 @@ class Gate(MachineCase):
             ],
         )
 
-    def test_whatever_the_settings_document_is_the_student_is_told(self):
-        settings = pathlib.Path(self.desktop.new_folder("settings"), "xpp.json")
-        documents = {
-            b"": "JSON parse hatası: ",
-            b"\xff\xfe": "JSON parse hatası: ",
-            b'{"macVersion": 14}': "JSON parse hatası: ",
-            b" " * 100_000_000: "Hata: ",
-        }
-        for document, line in documents.items():
-            with self.subTest(document[:20]):
-                settings.write_bytes(document)
-                client = self.client(self.provider("--settings-file", str(settings)))
-                client.guest.wait_for_line(line)
-                client.guest.wait_for_line("Gelen veri null")
-                self.wait_for_alert(UPDATE_TITLE)
-                self.desktop.screen.key("Escape")
-                self.assert_ends(client)
-
 
 class OtherApplications(MachineCase):
     def test_are_asked_to_quit_and_what_carries_the_session_is_not(self):
@@ -100,16 +82,6 @@ class OtherApplications(MachineCase):
             return window if window and self.desktop.screen.is_fullscreen(window) else None
 
         return wait_for("the session in full screen", session, guests=[terminal])
-
-    def test_a_refusal_ends_the_client_with_nothing_closed(self):
-        victim = self.victim("Bir")
-        client = self.client(self.provider())
-        client.open_application()
-        self.wait_for_alert(ALERT_TITLE)
-        self.desktop.screen.key("Tab")
-        self.desktop.screen.key("Return")
-        self.assert_ends(client)
-        self.assertIsNone(victim.exit_status())
 
 
 class Keys(MachineCase):

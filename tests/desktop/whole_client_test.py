@@ -4,7 +4,6 @@
     PYTHONPATH=scripts tests/desktop/whole_client_test.py BUILD_FOLDER [test names]
 """
 
-import json
 import pathlib
 import signal
 
@@ -42,25 +41,11 @@ class Road(ClientCase):
         self.assertEqual(site[1]["path"], "/accounts/Login")
         self.assertEqual({request["headers"].get("user-agent") for request in site}, {USER_AGENT})
 
-        login = f"https://{provider.address}//accounts/login?param={serial()}{LOGIN_TAIL}"
         lines = self.stdout(client)
-        before = lines.index('asdasdasdasd: Optional("203.0.113.7")')
-        gate = ["Mevcut Sürüm: 1.0 - Gerekli Sürüm: 1.0", 'Başarılı: AppData(macVersion: "1.0")']
-        state = pathlib.Path(self.environment["HOME"], "Library/Saved Application State", f"{BUNDLE}.savedState")
-        house = [
-            "Saved state dizini mevcut değil.",
-            "Dosya mevcut değil, varsayılan değerler kullanılacak.",
-            f"Dizin oluşturuldu: {state}",
-            "Varsayılan restorecount.plist dosyası oluşturuldu.",
-            "Kapatılacak uygulama yok.",
-        ]
-        self.assertEqual([line for line in lines[:before] if line not in gate], house)
-        self.assertEqual([line for line in lines if line in gate], gate)
-        lines = [line for line in lines[before:] if line not in gate]
-        own = ("json: ", "JavaScript execution failed: ", "Gelen url ", "Host: ", "Path: ", "Query Items: ", "Hash query")
-        others = {line for line in lines[1:] if not line.startswith(own)}
-        self.assertEqual(others, {"FullScreen observeFullScreenChanges ", login, "Gelen data tipi https"})
-        self.assertLess(lines.index("FullScreen observeFullScreenChanges "), lines.index(login))
+        self.assertLess(
+            lines.index('asdasdasdasd: Optional("203.0.113.7")'),
+            lines.index(f"https://{provider.address}{site[0]['path']}?{site[0]['query']}"),
+        )
 
     def test_nothing_of_a_session_is_left_whether_it_ended_well_or_not(self):
         provider = self.provider()
@@ -120,28 +105,17 @@ class Road(ClientCase):
 
 class Faults(ClientCase):
     def test_what_the_address_echo_answers_decides_about_the_session(self):
-        table = {
-            "refuse": ("nil", False),
-            "binary": ("nil", False),
-            "empty": ('Optional("")', True),
-            "blank": ('Optional("")', True),
-            "error500": (None, True),
-        }
-        for mode, (address, has_session) in table.items():
+        for mode, address in {"refuse": "nil", "binary": "nil", "empty": 'Optional("")'}.items():
             with self.subTest(mode):
                 provider = self.provider("--echo", mode)
                 client = self.client(provider)
                 client.open_application()
-                line = client.guest.wait_for_line("asdasdasdasd: ").text
-                if address is not None:
-                    self.assertEqual(line, f"asdasdasdasd: {address}")
-                if has_session:
-                    client.wait_for_login_page()
-                else:
+                self.assertEqual(client.guest.wait_for_line("asdasdasdasd: ").text, f"asdasdasdasd: {address}")
+                if address == "nil":
                     client.wait_for("the empty window", lambda: self.desktop.screen.window(SESSION_TITLE))
+                else:
+                    client.wait_for_login_page()
                 self.assertEqual(client.guest.terminate(), 0)
-                asked = [request for request in provider.requests() if request["path"] == "//accounts/login"]
-                self.assertEqual(len(asked), 1 if has_session else 0)
 
     def test_a_termination_signal_ends_the_wait_for_a_slow_address(self):
         client = self.client_waiting_for_its_address()
@@ -150,17 +124,6 @@ class Faults(ClientCase):
         client.guest.signal(signal.SIGTERM)
         self.assert_ends(client)
         self.assertEqual(self.stdout(client)[-1], "asdasdasdasd: nil")
-
-    def test_an_unreachable_login_site_leaves_a_client_that_can_be_ended(self):
-        provider = self.provider()
-        ready = json.loads(pathlib.Path(provider.ready_file).read_text(encoding="utf-8"))
-        ready["loginPort"] = self.provider("--echo", "refuse").ready["echoPort"]
-        pathlib.Path(provider.ready_file).write_text(json.dumps(ready), encoding="utf-8")
-        client = self.client(provider)
-        client.open_application()
-        client.wait_for_session_window()
-        client.guest.wait_for_line("Gelen data tipi https")
-        self.assertEqual(client.guest.terminate(), 0)
 
     def test_without_a_display_it_says_so(self):
         client = self.client(self.provider(), DISPLAY=":4711")

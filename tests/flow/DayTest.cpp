@@ -39,7 +39,7 @@ struct Day : testing::Test {
     Client client;
 };
 
-TEST_F(Day, everyHourIsLikeTheOneBeforeWhateverTheClockOnTheWallSays)
+TEST_F(Day, everyHourIsLikeTheOneBefore)
 {
     const auto hour = passHour();
     const auto pending = client.desktop.loop.pending();

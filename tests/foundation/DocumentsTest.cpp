@@ -6,9 +6,8 @@
 #include <gtest/gtest.h>
 
 namespace orken {
-namespace {
 
-TEST(Json, givesATopLevelTextAndNothingElse)
+TEST(Json, onlyATopLevelTextIsGiven)
 {
     const std::pair<std::string, std::string> good[] = {
         {R"({"macVersion": "1.4", "other": true})", "1.4"},
@@ -46,7 +45,7 @@ constexpr const char* kZero = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
                               "</dict>\n"
                               "</plist>\n";
 
-TEST(PropertyList, isWrittenToTheByteAndReadBack)
+TEST(PropertyList, isWrittenToTheByte)
 {
     EXPECT_EQ(asText(writePropertyList("restoreCount", 0).value()), kZero);
     for (const std::int64_t value : {std::int64_t{0}, std::int64_t{-1}, INT64_MAX, INT64_MIN}) {
@@ -54,7 +53,7 @@ TEST(PropertyList, isWrittenToTheByteAndReadBack)
     }
 }
 
-TEST(PropertyList, tellsIntegersFromOtherValuesAndDictionariesFromOtherLists)
+TEST(PropertyList, onlyAnIntegerHasANumber)
 {
     const auto read = [](const std::string& content, const std::string& key) {
         return readPropertyList(toBytes("<plist version=\"1.0\">" + content + "</plist>"), key);
@@ -81,5 +80,4 @@ TEST(PropertyList, tellsIntegersFromOtherValuesAndDictionariesFromOtherLists)
     }
 }
 
-} // namespace
 } // namespace orken

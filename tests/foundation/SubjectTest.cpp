@@ -22,7 +22,7 @@ struct SubjectTest : testing::Test {
     }
 };
 
-TEST_F(SubjectTest, callsPresentSubscribersInOrderAndACancelledOneNoMore)
+TEST_F(SubjectTest, aCancelledSubscriberIsNotCalled)
 {
     subject->send("0"); // replayed to nobody
     Subscription first, second, third;
@@ -40,7 +40,7 @@ TEST_F(SubjectTest, callsPresentSubscribersInOrderAndACancelledOneNoMore)
     EXPECT_EQ(subject->subscriberCount(), 0U);
 }
 
-TEST_F(SubjectTest, subscriberMaySendSubscribeAndDestroyTheSubject)
+TEST_F(SubjectTest, aSubscriberMayDestroyTheSubject)
 {
     int calls = 0;
     Subscription late;

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 namespace orken {
-namespace {
 
 using namespace std::string_view_literals;
 using OptionalText = std::optional<std::string>;
@@ -78,5 +77,4 @@ TEST(Text, responsesAreDecodedByMarkThenCharsetThenUtf8)
     }
 }
 
-} // namespace
 } // namespace orken

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 namespace orken {
-namespace {
 
 using namespace std::string_view_literals;
 using OptionalText = std::optional<std::string>;
@@ -69,7 +68,7 @@ TEST(Query, splitsBeforeItDecodes)
     EXPECT_EQ(queryItems({.scheme = "https"}), std::nullopt);
 }
 
-TEST(FileName, isTheLastComponentAndNeverAPath)
+TEST(FileName, isTheLastComponent)
 {
     const std::pair<std::string_view, OptionalText> cases[] = {
         {"blob:https://h/rapor.pdf%3Fv=2", "rapor.pdf"},
@@ -86,5 +85,4 @@ TEST(FileName, isTheLastComponentAndNeverAPath)
     }
 }
 
-} // namespace
 } // namespace orken

@@ -17,7 +17,7 @@ struct Bed : MachineBed {
     }
 };
 
-TEST(BrowsingData, emptiesTheCachesFolderAndKeepsTheFolderItself)
+TEST(BrowsingData, emptiesTheCachesFolderAlone)
 {
     Bed bed;
     bed.desktop.files.addFile(kFolder / "sub/inner/file");
@@ -29,7 +29,7 @@ TEST(BrowsingData, emptiesTheCachesFolderAndKeepsTheFolderItself)
     EXPECT_TRUE(bed.desktop.files.exists("/home/student/.cache/other/file"));
 }
 
-TEST(BrowsingData, stopsAtAnEntryThatCannotBeRemovedButNotAtOneThatHasVanished)
+TEST(BrowsingData, stopsAtAnEntryThatCannotBeRemoved)
 {
     for (const auto& [code, lastIsLeft] : {std::pair(EACCES, true), std::pair(ENOENT, false)}) {
         Bed bed;
@@ -43,7 +43,7 @@ TEST(BrowsingData, stopsAtAnEntryThatCannotBeRemovedButNotAtOneThatHasVanished)
     }
 }
 
-TEST(BrowsingData, aMissingFolderOrNoCachesDirectoryIsNoFailure)
+TEST(BrowsingData, withoutACachesFolderTheRestIsCleared)
 {
     Bed bed;
     EXPECT_THAT(bed.clear(), ElementsAre("remove cookies"));

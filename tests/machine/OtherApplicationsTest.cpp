@@ -30,7 +30,7 @@ std::string alertAbout(const std::string& list)
            list;
 }
 
-TEST(OtherApplications, theAlertNamesFiveAndAnAgreementAsksThemAll)
+TEST(OtherApplications, anAgreementAsksAllOfWhomTheAlertNamesFive)
 {
     const std::tuple<std::vector<std::optional<std::string>>, std::string, std::vector<std::string>> cases[] = {
         {{"A", "B", "C", "D", "E"}, "A\nB\nC\nD\nE", {"quit A", "quit B", "quit C", "quit D", "quit E"}},
@@ -50,7 +50,7 @@ TEST(OtherApplications, theAlertNamesFiveAndAnAgreementAsksThemAll)
     }
 }
 
-TEST(OtherApplications, anythingButAnAgreementEndsTheClientWithNothingClosed)
+TEST(OtherApplications, withoutAnAgreementTheClientEnds)
 {
     for (const bool aborted : {false, true}) {
         Bed bed;

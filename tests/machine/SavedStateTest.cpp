@@ -32,11 +32,16 @@ std::string list(const std::string& content)
     return "<plist version=\"1.0\">" + content + "</plist>";
 }
 
-TEST(SavedState, theFolderIsRemovedAndMadeAnewWithTheCounterAtZero)
+std::string counter(const std::string& value)
+{
+    return list("<dict><key>x</key><true/><key>restoreCount</key>" + value + "</dict>");
+}
+
+TEST(SavedState, theFolderIsMadeAnewWithTheCounterAtZero)
 {
     Bed bed;
     bed.desktop.files.addFile(kFolder + "/window_1.data");
-    bed.desktop.files.addFile(kFile, list("<dict><key>restoreCount</key><integer>7</integer></dict>"));
+    bed.desktop.files.addFile(kFile, counter("<integer>7</integer>"));
     bed.state.removeSavedStateDirectory();
     bed.state.updateRestoreCount();
     EXPECT_THAT(bed.desktop.journal.starting("print "),
@@ -46,79 +51,64 @@ TEST(SavedState, theFolderIsRemovedAndMadeAnewWithTheCounterAtZero)
                             "print Varsayılan restorecount.plist dosyası oluşturuldu."));
     EXPECT_EQ(bed.desktop.files.contentsOfDirectory(kFolder).value(), std::vector<std::string>{"restorecount.plist"});
     EXPECT_EQ(bed.count(), 0);
+}
 
+TEST(SavedState, aFolderThatStaysIsOneLine)
+{
+    Bed bed;
+    bed.desktop.files.addFile(kFile);
     bed.desktop.files.failingRemovals[kFolder] = EACCES;
-    (void)bed.desktop.journal.take();
     bed.state.removeSavedStateDirectory();
     EXPECT_THAT(bed.desktop.journal.acts(),
                 ElementsAre("print Saved state dizini silinirken bir hata oluştu: " + kFolder + ": error 13"));
-    EXPECT_THAT(bed.update(), ElementsAre("print Restore Count değeri: 0", "print Yeni Restore Count değeri: 1",
-                                          "print restorecount.plist dosyası güncellendi."));
-    EXPECT_EQ(bed.count(), 1);
 }
 
-TEST(SavedState, aSurvivingFileIsRaisedRewrittenOrLeftAlone)
+TEST(SavedState, aCounterIsRaisedToTheGreatestNumber)
 {
-    constexpr const char* kMissing = "print restoreCount anahtarı bulunamadı, varsayılan değer kullanılacak.";
-    constexpr const char* kDefault = "print Varsayılan restorecount.plist dosyası oluşturuldu.";
-    constexpr const char* kWritten = "print restorecount.plist dosyası güncellendi.";
-    const auto key = [](const std::string& value) {
-        return list("<dict><key>x</key><true/><key>restoreCount</key>" + value + "</dict>");
-    };
-    const std::tuple<std::string, std::vector<std::string>, std::optional<std::int64_t>> cases[] = {
-        {key("<integer>4</integer>"),
-         {"print Restore Count değeri: 4", "print Yeni Restore Count değeri: 5", kWritten},
-         5},
-        {key("<integer>-1</integer>"),
-         {"print Restore Count değeri: -1", "print Yeni Restore Count değeri: 0", kWritten},
-         0},
-        {key("<integer>9223372036854775807</integer>"),
-         {"print Restore Count değeri: 9223372036854775807", "print Yeni Restore Count değeri: 9223372036854775807",
-          kWritten},
-         INT64_MAX},
-        {key("<string>4</string>"), {kMissing, kDefault}, 0},
-        {list("<dict/>"), {kMissing, kDefault}, 0},
-        {list("<array/>"), {}, std::nullopt},
-    };
-    for (const auto& [content, lines, count] : cases) {
+    for (const auto& [before, after] : {std::pair<std::int64_t, std::int64_t>{4, 5}, {-1, 0}, {INT64_MAX, INT64_MAX}}) {
+        Bed bed;
+        bed.desktop.files.addFile(kFile, counter("<integer>" + std::to_string(before) + "</integer>"));
+        EXPECT_THAT(bed.update(), ElementsAre("print Restore Count değeri: " + std::to_string(before),
+                                              "print Yeni Restore Count değeri: " + std::to_string(after),
+                                              "print restorecount.plist dosyası güncellendi."));
+        EXPECT_EQ(bed.count(), after);
+    }
+}
+
+TEST(SavedState, aDictionaryWithoutACounterGetsOne)
+{
+    for (const std::string& content : {counter("<string>4</string>"), list("<dict/>")}) {
         Bed bed;
         bed.desktop.files.addFile(kFile, content);
-        EXPECT_EQ(bed.update(), lines) << content;
-        if (count) {
-            EXPECT_EQ(bed.count(), count) << content;
-        } else {
-            EXPECT_EQ(asText(bed.desktop.files.contents[kFile]), content);
+        EXPECT_THAT(bed.update(), ElementsAre("print restoreCount anahtarı bulunamadı, varsayılan değer kullanılacak.",
+                                              "print Varsayılan restorecount.plist dosyası oluşturuldu."));
+        EXPECT_EQ(bed.count(), 0) << content;
+    }
+}
+
+TEST(SavedState, failuresLeaveTheFileAsItWas)
+{
+    const std::string unread = "print Dosya okunurken bir hata oluştu: ";
+    const std::tuple<std::optional<std::string>, std::string, std::string> cases[] = {
+        {list("<array/>"), "", ""},
+        {"no list", "", unread},
+        {"", "", unread},
+        {std::string(2 << 20, ' '), "", unread},
+        {counter("<integer>4</integer>"), kFile, "print Dosya kaydedilirken bir hata oluştu: "},
+        {{}, kFolder, "print Varsayılan dosya oluşturulurken bir hata oluştu: "},
+    };
+    for (const auto& [content, failing, line] : cases) {
+        Bed bed;
+        if (content) {
+            bed.desktop.files.addFile(kFile, *content);
         }
-    }
-}
-
-TEST(SavedState, failuresAreOneLineEachAndLeaveTheFileAsItWas)
-{
-    const auto fails = [](Bed& bed, const std::string& line) {
+        bed.desktop.files.failingWrites[failing] = EACCES;
         const auto lines = bed.update();
-        ASSERT_FALSE(lines.empty());
-        EXPECT_THAT(lines.back(), testing::StartsWith("print " + line));
-        EXPECT_GT(lines.back().size(), line.size() + 6);
-    };
-    for (const std::string& content : {std::string("no list"), std::string(), std::string(2 << 20, ' ')}) {
-        Bed bed;
-        bed.desktop.files.addFile(kFile, content);
-        fails(bed, "Dosya okunurken bir hata oluştu: ");
-        EXPECT_EQ(asText(bed.desktop.files.contents[kFile]), content);
+        const std::string last = lines.empty() ? "" : lines.back();
+        EXPECT_TRUE(last.starts_with(line) && (line.empty() || last.size() > line.size())) << last;
+        EXPECT_EQ(bed.desktop.files.exists(kFile), content.has_value());
+        EXPECT_EQ(asText(bed.desktop.files.contents[kFile]), content.value_or(""));
     }
-    Bed folder;
-    folder.desktop.files.addFile(kFile + "/inside");
-    fails(folder, "Dosya okunurken bir hata oluştu: ");
-
-    Bed full;
-    full.desktop.files.addFile(kFile, list("<dict><key>restoreCount</key><integer>4</integer></dict>"));
-    full.desktop.files.failingWrites[kFile] = ENOSPC;
-    fails(full, "Dosya kaydedilirken bir hata oluştu: ");
-
-    Bed noFolder;
-    noFolder.desktop.files.failingWrites[kFolder] = EACCES;
-    fails(noFolder, "Varsayılan dosya oluşturulurken bir hata oluştu: ");
-    EXPECT_FALSE(noFolder.desktop.files.exists(kFile));
 }
 
 } // namespace

@@ -3,13 +3,12 @@
 #include <cerrno>
 
 namespace orken {
-namespace {
 
 using testing::ElementsAre;
 
 constexpr const char* kQuestion = "alert Uygulamayı silmek istediğinizden emin misiniz?: Bu işlem geri alınamaz";
 
-TEST(Uninstall, anAgreementEndsTheClientWhateverCouldBeRemoved)
+TEST(Uninstall, anAgreementEndsTheClient)
 {
     const std::tuple<const char*, int, std::vector<std::string>> cases[] = {
         {"/Applications/Orken.app/Contents/x",
@@ -45,5 +44,4 @@ TEST(Uninstall, aRefusalLeavesEverythingAsItIs)
     EXPECT_THAT(bed.desktop.journal.acts(), ElementsAre(kQuestion));
 }
 
-} // namespace
 } // namespace orken

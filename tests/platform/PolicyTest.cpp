@@ -3,11 +3,11 @@
 #include "platform/ReloadLimit.h"
 #include "platform/TimerGrid.h"
 #include "platform/WindowRegistry.h"
+#include "simulated/SimulatedDesktop.h"
 
 #include <gmock/gmock.h>
 
 namespace orken {
-namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -32,7 +32,7 @@ TEST(FullScreenTransition, followsChangesThatNobodyAskedFor)
     EXPECT_THAT(window.reported(false), ElementsAre(FullScreenChange::willExit, FullScreenChange::didExit));
 }
 
-TEST(FullScreenTransition, goesBackToWhereItWasWhenTheDesktopDoesNothing)
+TEST(FullScreenTransition, aChangeThatIsGivenUpLeavesTheOldState)
 {
     FullScreenTransition window;
     (void)window.toggle();
@@ -45,7 +45,7 @@ TEST(FullScreenTransition, goesBackToWhereItWasWhenTheDesktopDoesNothing)
     EXPECT_EQ(window.toggle(), FullScreenChange::willExit);
 }
 
-TEST(TimerGrid, lateFiresAreOneAndTheGridStays)
+TEST(TimerGrid, lateFiresAreOne)
 {
     TimerGrid grid(Seconds{0}, Seconds{10});
 
@@ -58,7 +58,7 @@ TEST(TimerGrid, lateFiresAreOneAndTheGridStays)
     }
 }
 
-TEST(AlertStack, anAlertIsOverWhenTheOnesAboveItAreAndItsFirstAnswerCounts)
+TEST(AlertStack, anAlertIsOverWhenTheOnesAboveItAre)
 {
     AlertStack stack;
     const auto unanswered = stack.push();
@@ -77,38 +77,14 @@ TEST(AlertStack, anAlertIsOverWhenTheOnesAboveItAreAndItsFirstAnswerCounts)
     EXPECT_EQ(stack.depth(), 1U);
 }
 
-struct ListedWindow final : Window {
-    [[nodiscard]] bool isVisible() const override { return shown; }
-
-    [[nodiscard]] WindowStyleMask styleMask() const override { return 0; }
-
-    void setTitle(const std::string&) override {}
-
-    void center() override {}
-
-    void makeKeyAndOrderFront() override {}
-
-    void setContentView(std::unique_ptr<View>) override {}
-
-    void toggleFullScreen() override {}
-
-    void close() override {}
-
-    bool shown = true;
-};
-
-std::shared_ptr<ListedWindow> window()
-{
-    return std::make_shared<ListedWindow>();
-}
-
-TEST(WindowRegistry, keepsItsOrderWhateverTheOrderOfArrival)
+TEST(WindowRegistry, aPanelStaysBehindLaterWindows)
 {
     using enum WindowKind;
     WindowRegistry registry;
+    simulated::SimulatedDesktop desktop;
     std::vector<std::shared_ptr<Window>> added;
     for (const WindowKind kind : {panel, toolkit, application, panel, application, panel}) {
-        registry.add(added.emplace_back(window()), kind);
+        registry.add(added.emplace_back(desktop.windows.open("")), kind);
     }
     EXPECT_THAT(registry.all(), ElementsAre(added[2], added[4], added[1], added[5], added[3], added[0]));
     registry.remove(*added[2]);
@@ -118,9 +94,10 @@ TEST(WindowRegistry, keepsItsOrderWhateverTheOrderOfArrival)
 
 TEST(WindowRegistry, theKeyWindowIsTheVisibleOneThatHadTheKeyboardLast)
 {
+    simulated::SimulatedDesktop desktop;
     WindowRegistry registry;
-    const auto a = window();
-    const auto b = window();
+    const auto a = desktop.windows.open("a");
+    const auto b = desktop.windows.open("b");
     EXPECT_EQ(registry.key(), nullptr);
     registry.add(a, WindowKind::application);
     registry.add(b, WindowKind::application);
@@ -128,21 +105,22 @@ TEST(WindowRegistry, theKeyWindowIsTheVisibleOneThatHadTheKeyboardLast)
     registry.gotKeyboard(*a);
     EXPECT_EQ(registry.key(), a);
     registry.gotKeyboard(*b);
-    b->shown = false;
+    b->setVisible(false);
     EXPECT_EQ(registry.key(), a);
 }
 
-TEST(WindowRegistry, panelsAndToolkitWindowsDoNotKeepTheApplicationOpen)
+TEST(WindowRegistry, onlyApplicationWindowsKeepTheApplicationOpen)
 {
+    simulated::SimulatedDesktop desktop;
     WindowRegistry registry;
-    const auto start = window();
-    const auto session = window();
+    const auto start = desktop.windows.open("start");
+    const auto session = desktop.windows.open("session");
     registry.add(start, WindowKind::application);
     registry.add(session, WindowKind::application);
-    registry.add(window(), WindowKind::toolkit);
-    registry.add(window(), WindowKind::panel);
+    registry.add(desktop.windows.open("other"), WindowKind::toolkit);
+    registry.add(desktop.windows.open("other"), WindowKind::panel);
     EXPECT_FALSE(registry.isLastVisibleApplicationWindow(*start));
-    session->shown = false;
+    session->setVisible(false);
     EXPECT_TRUE(registry.isLastVisibleApplicationWindow(*start));
 }
 
@@ -156,5 +134,4 @@ TEST(ReloadLimit, allowsThreeReloadsInAnyMinute)
     EXPECT_EQ(answers, "yyynnynyyn");
 }
 
-} // namespace
 } // namespace orken

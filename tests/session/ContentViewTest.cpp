@@ -32,8 +32,6 @@ struct Bed {
     explicit Bed(const simulated::Route& echo)
     {
         desktop.network.routes[kEcho] = echo;
-        window->setTitle("ORKEN");
-        window->makeKeyAndOrderFront();
         window->setContentView(std::make_unique<ContentView>(
             simulated::kEndpoints,
             ContentView::Ports{.identity = identity,
@@ -55,10 +53,10 @@ struct Bed {
     simulated::SimulatedDesktop desktop{{.permanentPanel = false}};
     DeviceIdentity identity = deviceIdentity(portsOf(desktop), simulated::kEndpoints);
     MachineServices machine{portsOf(desktop), simulated::kEndpoints};
-    std::shared_ptr<Window> window = desktop.windows.makeWindow({.width = 640, .height = 480}, 15);
+    std::shared_ptr<Window> window = desktop.windows.open("ORKEN");
 };
 
-TEST(ContentView, anAddressOpensTheSessionAndTogglesTheLastWindowEvenWhenItIsBlank)
+TEST(ContentView, aBlankAddressOpensTheSession)
 {
     Bed bed({.body = "\n"});
     bed.desktop.loop.run();
@@ -75,7 +73,7 @@ TEST(ContentView, withoutAnAddressTheWindowStaysEmptyForGood)
     EXPECT_THAT(bed.desktop.journal.acts(), ElementsAre("GET https://ip.example/", "print asdasdasdasd: nil"));
 }
 
-TEST(ContentView, theSerialNumberIsReadForTheScreenAndAgainForTheLine)
+TEST(ContentView, theSerialNumberIsReadAnewForTheLine)
 {
     Bed bed({.body = "203.0.113.7"});
     bed.desktop.hardware.serial.reset();

@@ -16,10 +16,6 @@ namespace orken::simulated {
 /// What a site answers for one address.
 struct Page {
     std::optional<std::string> title;
-    /// Where the server sends the browser instead.
-    std::optional<std::string> redirect;
-    /// The server's certificate fails the checks.
-    bool untrusted = false;
     /// From the request to the end of the page.
     Seconds loadTime{0};
 };
@@ -40,11 +36,7 @@ public:
 
     [[nodiscard]] std::optional<std::string> url() const override { return address_; }
 
-    void setNavigationDelegate(std::weak_ptr<NavigationDelegate> delegate) override
-    {
-        delegate_ = std::move(delegate);
-        journal_.add("navigation delegate");
-    }
+    void setNavigationDelegate(std::weak_ptr<NavigationDelegate> delegate) override { delegate_ = std::move(delegate); }
 
     void load(const UrlRequest& request) override
     {
@@ -61,12 +53,12 @@ public:
 
     void configure(const BrowserConfiguration& configuration) override
     {
-        const auto onOff = [](bool on) { return on ? "on" : "off"; };
         userAgent_ = configuration.customUserAgent;
-        journal_.add("user agent " + userAgent_);
-        journal_.add(std::string("link previews ") + onOff(configuration.allowsLinkPreview));
-        journal_.add(std::string("page scripts ") + onOff(configuration.allowsContentJavaScript));
-        journal_.add(std::string("developer extras ") + onOff(configuration.developerExtrasEnabled));
+        for (const auto& [setting, isOn] : {std::pair("link previews", configuration.allowsLinkPreview),
+                                            std::pair("page scripts", configuration.allowsContentJavaScript),
+                                            std::pair("developer extras", configuration.developerExtrasEnabled)}) {
+            journal_.add(std::string(setting) + (isOn ? " on" : " off"));
+        }
         for (const UserScript& script : configuration.userScripts) {
             journal_.add(std::string("user script of ") +
                          (script.forMainFrameOnly ? "the main frame: " : "every frame: ") + script.source);
@@ -96,22 +88,6 @@ public:
     }
 
 private:
-    struct Trust final : ServerTrust {
-        void setOwnExceptions() override { accepted = true; }
-
-        bool accepted = false;
-    };
-
-    /// A decision handler of the engine: exactly one call.
-    template <class Answer>
-    static std::function<void(Answer)> onceOnly(std::function<void(Answer)> decide)
-    {
-        return [decided = std::make_shared<bool>(false), decide = std::move(decide)](Answer answer) {
-            require(!std::exchange(*decided, true), "a decision was given twice");
-            decide(answer);
-        };
-    }
-
     void run(const std::string& kind, const std::string& script, ScriptCompletion completion)
     {
         loop_.requireMainThread();
@@ -129,51 +105,35 @@ private:
             request(url);
             return;
         }
-        const auto decide = onceOnly<NavigationPolicy>([this, url](NavigationPolicy policy) {
-            policy == NavigationPolicy::allow ? request(url) : failProvisionally("cancelled");
-        });
+        const auto decide = [this, url, decided = std::make_shared<bool>(false)](NavigationPolicy policy) {
+            require(!std::exchange(*decided, true), "a decision was given twice");
+            policy == NavigationPolicy::allow ? request(url) : failProvisionally();
+        };
         delegate->decidePolicyForNavigationAction(*this, {.requestUrl = url}, decide);
     }
 
     void request(const std::string& url)
     {
         journal_.add("request " + url + " as " + userAgent_);
-        const auto delegate = delegate_.lock();
         const auto place = site_.find(url);
         if (place == site_.end()) {
-            failProvisionally("no answer");
-        } else if (!place->second.untrusted) {
-            answer(url, place->second);
-        } else if (delegate) {
-            const auto trust = std::make_shared<Trust>();
-            const auto decide = onceOnly<ChallengeDisposition>([=, this, page = place->second](auto disposition) {
-                const bool accepted = disposition == ChallengeDisposition::useCredential && trust->accepted;
-                accepted ? answer(url, page) : failProvisionally("certificate");
-            });
-            delegate->didReceiveAuthenticationChallenge(*this, {.serverTrust = trust}, decide);
-        }
-    }
-
-    void answer(const std::string& url, const Page& page)
-    {
-        if (page.redirect) {
-            navigate(*page.redirect);
+            failProvisionally();
             return;
         }
         address_ = committed_ = url;
-        title_ = page.title;
-        onThisLoad(page.loadTime, [this] {
+        title_ = place->second.title;
+        onThisLoad(place->second.loadTime, [this] {
             if (const auto delegate = delegate_.lock()) {
                 delegate->didFinishNavigation(*this);
             }
         });
     }
 
-    void failProvisionally(const std::string& reason)
+    void failProvisionally()
     {
         address_ = committed_;
         if (const auto delegate = delegate_.lock()) {
-            delegate->didFailProvisionalNavigation(*this, platformError("browser", 2, "", reason));
+            delegate->didFailProvisionalNavigation(*this, platformError("browser", 2, "", "no answer"));
         }
     }
 

@@ -66,16 +66,11 @@ public:
 
     [[nodiscard]] Outcome<void> createDirectory(const Path& directory) override
     {
-        const Path above = directory.parent_path();
-        if (directory.has_relative_path() && !exists(directory)) {
-            if (const int code = codeOfWriting(directory)) {
-                return failure(directory, code);
-            }
-            if (auto created = createDirectory(above); !created) {
-                return created;
-            }
+        if (const auto failing = failingWrites.find(directory); failing != failingWrites.end()) {
+            return failure(directory, failing->second);
+        }
+        if (!exists(directory)) {
             addFile(directory);
-            journal_.add("make folder " + directory.string());
         }
         folders_.insert(directory);
         return {};
@@ -92,8 +87,8 @@ public:
 
     [[nodiscard]] Outcome<void> writeFile(const Path& file, const Bytes& content) override
     {
-        if (const int code = codeOfWriting(file)) {
-            return failure(file, code);
+        if (const auto failing = failingWrites.find(file); failing != failingWrites.end() || folders_.contains(file)) {
+            return failure(file, failing != failingWrites.end() ? failing->second : EISDIR);
         }
         if (!exists(file)) {
             addFile(file);
@@ -135,16 +130,6 @@ public:
     std::map<Path, Bytes> contents;
 
 private:
-    [[nodiscard]] int codeOfWriting(const Path& file) const
-    {
-        const auto failing = failingWrites.find(file);
-        const bool isLong = file.filename().string().size() > 255;
-        return failing != failingWrites.end() ? failing->second
-               : folders_.contains(file)      ? EISDIR
-               : isLong                       ? ENAMETOOLONG
-                                              : 0;
-    }
-
     static PlatformError failure(const Path& item, int code)
     {
         return platformError("posix", code, item.string(), "error " + std::to_string(code));

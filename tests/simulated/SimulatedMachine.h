@@ -29,8 +29,7 @@ private:
 };
 
 /// Stands still until it is set.
-class SimulatedClock final : public Clock {
-public:
+struct SimulatedClock final : Clock {
     [[nodiscard]] std::chrono::system_clock::time_point now() const override { return time; }
 
     /// 2026-11-16 21:03:25.123 UTC.
@@ -38,8 +37,7 @@ public:
 };
 
 /// Answers the place in the range that the test has chosen.
-class SimulatedRandom final : public RandomNumbers {
-public:
+struct SimulatedRandom final : RandomNumbers {
     [[nodiscard]] double between(double low, double high) override
     {
         require(low <= high, "an empty range of random numbers");
@@ -50,8 +48,7 @@ public:
     double part = 0;
 };
 
-class SimulatedScreens final : public Screens {
-public:
+struct SimulatedScreens final : Screens {
     [[nodiscard]] std::optional<Rect> mainScreenFrame() const override { return frame; }
 
     std::optional<Rect> frame = Rect{.width = 1920, .height = 1080};
@@ -101,15 +98,13 @@ private:
     std::vector<RunningApplication> running_{{"com.orken.test", "ORKEN", std::make_shared<char>()}};
 };
 
-class SimulatedHardware final : public HardwareRegistry {
-public:
+struct SimulatedHardware final : HardwareRegistry {
     [[nodiscard]] std::optional<std::string> platformExpertSerial() const override { return serial; }
 
     std::optional<std::string> serial = "C02ABC123XYZ\n";
 };
 
-class SimulatedBundle final : public BundleInfo {
-public:
+struct SimulatedBundle final : BundleInfo {
     [[nodiscard]] InfoValue infoValue(const std::string& key) const override
     {
         const auto place = values.find(key);

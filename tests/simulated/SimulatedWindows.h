@@ -44,18 +44,25 @@ public:
     }
 
     // The desktop's side.
+    /// An ordinary window of the application, on the screen.
+    WindowPtr open(const std::string& title)
+    {
+        auto window = add(WindowKind::application, windowStyle::kTitled | windowStyle::kResizable);
+        window->setTitle(title);
+        window->makeKeyAndOrderFront();
+        return window;
+    }
+
     void openGroupWindow(const WindowGroup& group)
     {
-        const auto window = add(WindowKind::application, kOrdinary);
+        const auto window = open(group.title);
         window->onClose = [this, weak = std::weak_ptr(window)] {
             const auto closed = weak.lock();
             registry_.remove(*closed);
             // The pressed button may be inside: the widgets go on a later turn.
             surroundings_.loop.later(Seconds{0}, [closed] { closed->dropContent(); });
         };
-        window->setTitle(group.title);
         window->setContentView(group.content());
-        window->makeKeyAndOrderFront();
     }
 
     /// The permanent panel for an outermost alert, else one of the alert's own.
@@ -112,8 +119,6 @@ public:
     }
 
 private:
-    static constexpr WindowStyleMask kOrdinary = 15;
-
     WindowPtr add(WindowKind kind, WindowStyleMask styleMask)
     {
         auto window = std::make_shared<SimulatedWindow>(surroundings_, kind, styleMask);
