@@ -13,8 +13,6 @@ namespace {
 
 /// Puts "ty" before every other key.
 struct TypeFirst {
-    using is_transparent = void;
-
     bool operator()(std::string_view left, std::string_view right) const
     {
         constexpr std::string_view kType = "ty";

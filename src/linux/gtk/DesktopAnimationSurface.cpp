@@ -80,9 +80,7 @@ void DesktopAnimationSurface::setOnResize(std::function<void()> callback)
 void DesktopAnimationSurface::open(AnimationDocument document, Events events)
 {
     close();
-    opened_.emplace();
-    opened_->document = std::move(document);
-    opened_->events = std::move(events);
+    opened_ = Opened{.document = std::move(document), .events = std::move(events)};
     request({.frame = 0, .size = pictureSize()});
 }
 
