@@ -23,7 +23,7 @@ std::shared_ptr<BrowserView> SwiftUIWebView::makeNSView(const Context& context)
     webView_->setNavigationDelegate(context.coordinator);
     const std::string link = viewModel_->link.get();
     if (parseUrl(link)) {
-        webView_->load({.url = link, .cachePolicy = CachePolicy::useProtocolCachePolicy, .timeout = Seconds{60}});
+        webView_->load({.url = link, .cachePolicy = CachePolicy::useProtocolCachePolicy});
     }
     webView_->configure({.customUserAgent = kUserAgent,
                          .allowsLinkPreview = true,

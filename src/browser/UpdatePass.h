@@ -19,7 +19,8 @@ public:
 
     explicit UpdatePass(const Services& services) : services_(services) {}
 
-    /// `webView` shows the page; the model's own view, once it is there, gets the anti-debugging script.
+    /// `webView` shows the page. The model knows the same view from its first redraw on; only then the anti-debugging
+    /// script runs.
     void runUpdatePass(BrowserView& webView, const std::shared_ptr<WebViewModel>& viewModel);
 
 private:

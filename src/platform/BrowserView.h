@@ -18,7 +18,7 @@ enum class CachePolicy { useProtocolCachePolicy };
 struct UrlRequest {
     std::string url;
     CachePolicy cachePolicy = CachePolicy::useProtocolCachePolicy;
-    /// The load fails when the server has not begun to answer by then.
+    /// The load fails when the server has not begun to answer by then. The same for every load of the client.
     Seconds timeout{60};
 };
 

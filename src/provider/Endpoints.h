@@ -21,7 +21,8 @@ struct Endpoints {
     /// Answers with the caller's public address as text.
     std::string ipEchoURL;
 
-    /// The first page of a session. The serial number is inserted as it is.
+    /// The first page of a session, the login page: https://LOGINHOST//accounts/login?param=SERIAL&xppKey=KEY with the
+    /// application key. The serial number is inserted as it is.
     [[nodiscard]] std::string loginURL(std::string_view serial) const;
 
     [[nodiscard]] std::string updateImageURL() const { return "https://" + contentHost + "/program/mac/orkenv1.dmg"; }

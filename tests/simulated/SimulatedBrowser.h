@@ -16,6 +16,8 @@ namespace orken::simulated {
 /// What a site answers for one address.
 struct Page {
     std::optional<std::string> title;
+    /// The server's certificate fails the checks.
+    bool untrusted = false;
     /// From the request to the end of the page.
     Seconds loadTime{0};
 };
@@ -116,7 +118,7 @@ private:
     {
         journal_.add("request " + url + " as " + userAgent_);
         const auto place = site_.find(url);
-        if (place == site_.end()) {
+        if (place == site_.end() || (place->second.untrusted && !isExcepted())) {
             failProvisionally();
             return;
         }
@@ -127,6 +129,25 @@ private:
                 delegate->didFinishNavigation(*this);
             }
         });
+    }
+
+    /// Whether the delegate, asked at once, makes an exception for the server's certificate.
+    bool isExcepted()
+    {
+        struct Trust final : ServerTrust {
+            void setOwnExceptions() override { isExcepted = true; }
+
+            bool isExcepted = false;
+        };
+
+        const auto trust = std::make_shared<Trust>();
+        bool isUsed = false;
+        if (const auto delegate = delegate_.lock()) {
+            delegate->didReceiveAuthenticationChallenge(
+                *this, {.serverTrust = trust},
+                [&isUsed](ChallengeDisposition answer) { isUsed = answer == ChallengeDisposition::useCredential; });
+        }
+        return isUsed && trust->isExcepted;
     }
 
     void failProvisionally()

@@ -1,7 +1,7 @@
 #include "linux/gtk/DesktopApplication.h"
 
 #include "linux/gtk/PlainButton.h"
-#include "linux/gtk/RunningCopy.h"
+#include "linux/gtk/SingleInstance.h"
 #include "linux/services/StandardConsole.h"
 
 #include <gtk/gtk.h>
@@ -42,7 +42,7 @@ std::optional<int> DesktopApplication::launch(ApplicationDelegate& delegate, con
     auto* windows = GTK_WINDOW_CLASS(g_type_class_ref(GTK_TYPE_WINDOW));
     windows->enable_debugging = +[](GtkWindow*, gboolean) -> gboolean { return TRUE; };
     // Registering would wait for an answer of the other copy and take its silence for a refusal of the bus.
-    if (presentRunningCopy(identifier_)) {
+    if (presentRunningInstance(identifier_)) {
         return EXIT_SUCCESS;
     }
     delegate_ = &delegate;

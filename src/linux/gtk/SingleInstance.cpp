@@ -1,4 +1,4 @@
-#include "linux/gtk/RunningCopy.h"
+#include "linux/gtk/SingleInstance.h"
 
 #include "linux/loop/GObjectPtr.h"
 
@@ -39,7 +39,7 @@ std::string objectPath(const std::string& identifier)
 
 } // namespace
 
-bool presentRunningCopy(const std::string& identifier)
+bool presentRunningInstance(const std::string& identifier)
 {
     const auto bus = GObjectPtr<GDBusConnection>::adopt(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
     if (!bus || !g_dbus_is_name(identifier.c_str()) || !hasOtherOwner(bus.get(), identifier)) {
