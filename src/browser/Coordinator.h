@@ -10,9 +10,9 @@
 
 namespace orken {
 
-/// The session's navigation delegate: copies what finished pages say into the model, accepts every server's certificate,
-/// also one that the system would refuse, because providers run sites with certificates of their own, and lets every
-/// navigation through except those to `blob:` addresses. SECURITY.md says what that means. Main thread only.
+/// The session's navigation delegate: copies what finished pages say into the model, accepts every server's
+/// certificate, also one that the system would refuse, because providers run sites with certificates of their own, and
+/// lets every navigation through except those to `blob:` addresses. SECURITY.md says what that means. Main thread only.
 class Coordinator final : public NavigationDelegate, public std::enable_shared_from_this<Coordinator> {
 public:
     struct Services {

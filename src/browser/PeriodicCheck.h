@@ -9,8 +9,8 @@
 
 namespace orken {
 
-/// What is done every ten seconds for as long as the process runs, once it has been started, and with each update pass of
-/// a page as well. Main thread only.
+/// What is done every ten seconds for as long as the process runs, once it has been started, and with each update pass
+/// of a page as well. Main thread only.
 class PeriodicCheck {
 public:
     struct Ports {

@@ -34,9 +34,9 @@ public:
     void observeFullScreenChanges(const State<bool>& isFullScreen);
 
     /// From here to the end of the process the Escape key closes the other windows and reaches no window itself, so no
-    /// page either. An alert that is up is one of those windows: it ends as if aborted, which counts as a refusal. Before
-    /// the session the key does what it does on the desktop: on the update alert it presses the button that cancels. Each
-    /// call adds a monitor. This outlives them all.
+    /// page either. An alert that is up is one of those windows: it ends as if aborted, which counts as a refusal.
+    /// Before the session the key does what it does on the desktop: on the update alert it presses the button that
+    /// cancels. Each call adds a monitor. This outlives them all.
     void installKeyMonitor();
 
 private:

@@ -25,8 +25,8 @@ public:
     virtual ~RunningApplications() = default;
 
     /// Made anew on every call, in the desktop's order; the client is in it when it has a window. Never in it: what the
-    /// session cannot do without, what started the client, and the client's other processes. Empty where the desktop does
-    /// not tell.
+    /// session cannot do without, what started the client, and the client's other processes. Empty where the desktop
+    /// does not tell.
     [[nodiscard]] virtual std::vector<RunningApplication> all() = 0;
 
     [[nodiscard]] virtual bool isCurrent(const RunningApplication& application) const = 0;

@@ -20,8 +20,8 @@ inline constexpr const char* kRequiredVersionMember = "macVersion";
 inline constexpr std::string_view kHashParameter = "hash";
 inline constexpr std::string_view kAesKeyParameter = "dnz";
 
-/// The address is that of a login page. Letter case counts: the login address that the client itself asks for is not one
-/// until the server has led on from it.
+/// The address is that of a login page. Letter case counts: the login address that the client itself asks for is not
+/// one until the server has led on from it.
 [[nodiscard]] inline bool isLoginPage(const std::string& url)
 {
     return url.find("Login") != std::string::npos;

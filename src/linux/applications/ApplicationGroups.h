@@ -53,14 +53,14 @@ struct ApplicationGroup {
     std::vector<std::uint32_t> windows;
 };
 
-/// Groups windows by process, else by leader, else each alone, in the order in which the applications appear. The handles
-/// are null.
+/// Groups windows by process, else by leader, else each alone, in the order in which the applications appear. The
+/// handles are null.
 ///
 /// Spared, and therefore not in the list, are other programs that must never be asked to quit: window and session
-/// managers, lock screens, policy agents, input methods, assistive programs and portals (`isSessionCritical`, by the table
-/// in SystemComponents.cpp), whatever the client was started by with its terminal, and the client's own other processes.
-/// File manager, desktop, dock and search get the identifiers that the product keeps as well; it keeps settings daemons
-/// and wallpapers during a session only (machine/OtherApplications.cpp).
+/// managers, lock screens, policy agents, input methods, assistive programs and portals (`isSessionCritical`, by the
+/// table in SystemComponents.cpp), whatever the client was started by with its terminal, and the client's own other
+/// processes. File manager, desktop, dock and search get the identifiers that the product keeps as well; it keeps
+/// settings daemons and wallpapers during a session only (machine/OtherApplications.cpp).
 [[nodiscard]] std::vector<ApplicationGroup> groupApplications(const std::vector<ClientWindow>& windows,
                                                               const SessionFacts& facts);
 
