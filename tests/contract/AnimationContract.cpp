@@ -13,8 +13,6 @@ const AnimationDocument kSquare{
 
 /// Puts the surface into a window.
 struct Placed {
-    explicit Placed(std::shared_ptr<AnimationSurface> shown) : surface(std::move(shown)) {}
-
     [[nodiscard]] std::shared_ptr<AnimationSurface> makeNSView(const RepresentableContext<NoCoordinator>&) const
     {
         return surface;
@@ -33,7 +31,7 @@ public:
 
     [[nodiscard]] Element body() override
     {
-        auto make = [this] { return std::make_unique<Placed>(surface_); };
+        auto make = [this] { return std::make_unique<Placed>(Placed{surface_}); };
         return ZStack({Representable<Placed>(make).frame({.width = 100, .height = 50})}).opacity(opacity.get());
     }
 

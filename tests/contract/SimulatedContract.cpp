@@ -32,13 +32,6 @@ public:
 
     [[nodiscard]] std::string refusedAddress() override { return "http://refused.example/"; }
 
-    [[nodiscard]] std::string untrustedPage() override
-    {
-        const std::string address = "https://untrusted.example/";
-        desktop_.browserViews.site[address] = {.untrusted = true};
-        return address;
-    }
-
     [[nodiscard]] Ports ports() override { return portsOf(desktop_); }
 
 private:

@@ -7,42 +7,38 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 namespace orken {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
-TEST(FullScreenTransition, aRepeatedReportOfTheOldStateEndsNothing)
+/// What a window tells (will and did enter: e, E; will and did exit: x, X) when it is toggled (t), is reported to be in
+/// full screen (1) or not (0), and when its change is given up (g).
+std::string told(const std::string& events)
 {
     FullScreenTransition window;
-    (void)window.toggle();
-    EXPECT_THAT(window.reported(false), IsEmpty());
-    EXPECT_TRUE(window.isUnderWay());
-    EXPECT_THAT(window.reported(true), ElementsAre(FullScreenChange::didEnter));
-    EXPECT_EQ(window.toggle(), FullScreenChange::willExit);
-    EXPECT_EQ(window.toggle(), std::nullopt);
-    EXPECT_THAT(window.reported(true), IsEmpty());
-    EXPECT_THAT(window.reported(false), ElementsAre(FullScreenChange::didExit));
+    std::string letters;
+    const auto add = [&](FullScreenChange change) { letters += "eExX"[static_cast<std::size_t>(change)]; };
+    for (const char event : events) {
+        if (event == 'g') {
+            window.givenUp();
+        } else if (event != 't') {
+            std::ranges::for_each(window.reported(event == '1'), add);
+        } else if (const auto change = window.toggle()) {
+            add(*change);
+        }
+    }
+    return letters;
 }
 
-TEST(FullScreenTransition, followsChangesThatNobodyAskedFor)
+TEST(FullScreenTransition, tellsOfEachChangeOnce)
 {
-    FullScreenTransition window;
-    EXPECT_THAT(window.reported(true), ElementsAre(FullScreenChange::willEnter, FullScreenChange::didEnter));
-    EXPECT_THAT(window.reported(false), ElementsAre(FullScreenChange::willExit, FullScreenChange::didExit));
-}
-
-TEST(FullScreenTransition, aChangeThatIsGivenUpLeavesTheOldState)
-{
-    FullScreenTransition window;
-    (void)window.toggle();
-    window.givenUp();
-    EXPECT_FALSE(window.isFullScreen() || window.isUnderWay());
-    (void)window.reported(true);
-    (void)window.toggle();
-    window.givenUp();
-    EXPECT_TRUE(window.isFullScreen());
-    EXPECT_EQ(window.toggle(), FullScreenChange::willExit);
+    EXPECT_EQ(told("t0011tt1"), "eEx") << "repeated reports and requests on the way";
+    EXPECT_EQ(told("t1t0"), "eExX");
+    EXPECT_EQ(told("10"), "eExX") << "changes that nobody asked for";
+    EXPECT_EQ(told("tgt"), "ee") << "the first one is given up";
+    EXPECT_EQ(told("1tgt"), "eExx") << "the way back is given up";
 }
 
 TEST(TimerGrid, lateFiresAreOne)

@@ -79,7 +79,7 @@ public:
     {
         while (!jobs_.empty()) {
             require(!std::exchange(onBackground_, true), "the background queue is serial");
-            takeFirst(jobs_)();
+            runFirst(jobs_);
             onBackground_ = false;
         }
     }
@@ -112,32 +112,28 @@ public:
     }
 
 private:
-    static std::function<void()> takeFirst(std::deque<std::function<void()>>& items)
+    static void runFirst(std::deque<std::function<void()>>& items)
     {
-        auto first = std::move(items.front());
+        const auto first = std::move(items.front());
         items.pop_front();
-        return first;
+        first();
     }
 
-    class RepeatingTimer final : public Timer {
-    public:
-        RepeatingTimer(TimerGrid start, std::function<void()> block) : grid(start), block_(std::move(block)) {}
+    struct RepeatingTimer final : Timer {
+        RepeatingTimer(TimerGrid start, std::function<void()> fired) : grid(start), block(std::move(fired)) {}
 
         void fire() override
         {
-            if (const auto block = block_) {
-                block();
+            if (const auto now = block) {
+                now();
             }
         }
 
-        void invalidate() override { block_ = nullptr; }
-
-        [[nodiscard]] bool isValid() const { return static_cast<bool>(block_); }
+        void invalidate() override { block = nullptr; }
 
         TimerGrid grid;
-
-    private:
-        std::function<void()> block_;
+        /// Empty once the timer is invalid.
+        std::function<void()> block;
     };
 
     bool turn()
@@ -159,13 +155,13 @@ private:
     {
         bool fired = false;
         for (const auto& timer : std::vector(timers_)) {
-            if (modalDepth_ == 0 && !stopped_ && timer->isValid() && timer->grid.isDue(now_)) {
+            if (modalDepth_ == 0 && !stopped_ && timer->block && timer->grid.isDue(now_)) {
                 timer->grid.fired(now_);
                 timer->fire();
                 fired = true;
             }
         }
-        std::erase_if(timers_, [](const auto& timer) { return !timer->isValid(); });
+        std::erase_if(timers_, [](const auto& timer) { return !timer->block; });
         return fired;
     }
 
@@ -177,7 +173,7 @@ private:
         }
         servingQueue_ = true;
         while (!queue_.empty()) {
-            takeFirst(queue_)();
+            runFirst(queue_);
         }
         servingQueue_ = false;
         return true;
@@ -187,7 +183,7 @@ private:
     {
         Seconds next = events_.empty() ? Seconds::max() : events_.begin()->first;
         for (const auto& timer : timers_) {
-            if (modalDepth_ == 0 && timer->isValid()) {
+            if (modalDepth_ == 0 && timer->block) {
                 next = std::min(next, timer->grid.next());
             }
         }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/AnimationSurface.h"
-#include "simulated/MainLoop.h"
+#include "simulated/Part.h"
 #include "simulated/SeenView.h"
 
 #include <cmath>
@@ -11,12 +11,15 @@
 namespace orken::simulated {
 
 /// A surface whose renderer does what the test tells it. The screen shows 60 frames a second while it can be seen.
-class SimulatedAnimationSurface final : public AnimationSurface, public SeenView {
+class SimulatedAnimationSurface final : public AnimationSurface,
+                                        public SeenView,
+                                        Part,
+                                        public std::enable_shared_from_this<SimulatedAnimationSurface> {
 public:
     enum class Renderer { works, refuses };
 
-    SimulatedAnimationSurface(MainLoop& loop, Size size, const Renderer& renderer)
-        : loop_(loop), bounds_(size), renderer_(renderer)
+    SimulatedAnimationSurface(Common& common, Size size, const Renderer& renderer)
+        : Part(common), bounds_(size), renderer_(renderer)
     {
     }
 
@@ -32,7 +35,7 @@ public:
         close();
         opened = document;
         failed_ = events.failed;
-        loop_.later(Seconds{0.02}, [this, weak = weak_, generation = generation_, answer = events.opened] {
+        loop_.later(Seconds{0.02}, [this, weak = weak_from_this(), generation = generation_, answer = events.opened] {
             if (weak.lock() && generation == generation_) {
                 const bool works = renderer_ == Renderer::works && !opened->json.empty();
                 works ? void(isOpen_ = true) : close();
@@ -66,13 +69,13 @@ public:
     void setFrameTick(FrameTick tick) override
     {
         tick_ = std::move(tick);
-        startTicks();
+        scheduleTick();
     }
 
     void setSeen(bool seen) override
     {
         isSeen_ = seen;
-        startTicks();
+        scheduleTick();
     }
 
     /// The renderer of an open document crashes or hangs.
@@ -99,29 +102,20 @@ public:
 private:
     static constexpr Seconds kScreenFrame{1.0 / 60};
 
-    void startTicks()
+    void scheduleTick()
     {
-        if (isTicking() && !isScheduled_) {
-            isScheduled_ = true;
-            loop_.later(kScreenFrame, [this, weak = weak_] {
-                if (weak.lock()) {
-                    isScheduled_ = false;
-                    tick();
+        if (isTicking() && !std::exchange(isScheduled_, true)) {
+            loop_.later(kScreenFrame, [this, weak = weak_from_this()] {
+                const auto alive = weak.lock();
+                if (alive && std::exchange(isScheduled_, false) && isTicking()) {
+                    const FrameTick tick = tick_;
+                    tick(kScreenFrame);
+                    scheduleTick();
                 }
             });
         }
     }
 
-    void tick()
-    {
-        if (isTicking()) {
-            const FrameTick tick = tick_;
-            tick(kScreenFrame);
-            startTicks();
-        }
-    }
-
-    MainLoop& loop_;
     Size bounds_;
     const Renderer& renderer_;
     std::function<void()> onResize_;
@@ -131,29 +125,24 @@ private:
     bool isSeen_ = false;
     bool isScheduled_ = false;
     unsigned generation_ = 0;
-    std::shared_ptr<int> alive_ = std::make_shared<int>();
-    std::weak_ptr<int> weak_ = alive_;
 };
 
-class SimulatedAnimationSurfaces final : public AnimationSurfaces {
+class SimulatedAnimationSurfaces final : public AnimationSurfaces, Part {
 public:
-    explicit SimulatedAnimationSurfaces(MainLoop& loop) : loop_(loop) {}
+    using Part::Part;
 
     [[nodiscard]] Outcome<AnimationDocument> prepare(AnimationDocument document) const override { return document; }
 
     [[nodiscard]] std::shared_ptr<AnimationSurface> make(Size size) override
     {
         loop_.requireMainThread();
-        latest = std::make_shared<SimulatedAnimationSurface>(loop_, size, renderer);
+        latest = std::make_shared<SimulatedAnimationSurface>(common_, size, renderer);
         return latest;
     }
 
     SimulatedAnimationSurface::Renderer renderer = SimulatedAnimationSurface::Renderer::works;
     /// The surface that was made last.
     std::shared_ptr<SimulatedAnimationSurface> latest;
-
-private:
-    MainLoop& loop_;
 };
 
 } // namespace orken::simulated

@@ -10,12 +10,9 @@
 namespace orken::simulated {
 
 /// The application's life. `run` opens the window and returns at once: the test drives the loop.
-class SimulatedApplication final : public Application {
+class SimulatedApplication final : public Application, Part {
 public:
-    SimulatedApplication(MainLoop& loop, SimulatedWindows& windows, Journal& journal)
-        : loop_(loop), windows_(windows), journal_(journal)
-    {
-    }
+    SimulatedApplication(Common& common, SimulatedWindows& windows) : Part(common), windows_(windows) {}
 
     [[nodiscard]] int run(ApplicationDelegate& delegate, const WindowGroup& group) override
     {
@@ -41,9 +38,7 @@ public:
     std::function<void()> beforeEnd;
 
 private:
-    MainLoop& loop_;
     SimulatedWindows& windows_;
-    Journal& journal_;
     TerminationLatch latch_;
     ApplicationDelegate* delegate_ = nullptr;
 };

@@ -2,8 +2,7 @@
 
 #include "foundation/Url.h"
 #include "platform/BrowserView.h"
-#include "simulated/Journal.h"
-#include "simulated/MainLoop.h"
+#include "simulated/Part.h"
 #include "simulated/Require.h"
 
 #include <map>
@@ -25,12 +24,9 @@ struct Page {
 using Site = std::map<std::string, Page>;
 
 /// A browser view whose pages are a table; addresses that are not in it fail.
-class SimulatedBrowserView final : public BrowserView {
+class SimulatedBrowserView final : public BrowserView, Part {
 public:
-    SimulatedBrowserView(MainLoop& loop, Journal& journal, const Site& site)
-        : loop_(loop), journal_(journal), site_(site)
-    {
-    }
+    SimulatedBrowserView(Common& common, const Site& site) : Part(common), site_(site) {}
 
     [[nodiscard]] NativeHandle* native() override { return nullptr; }
 
@@ -168,8 +164,6 @@ private:
         });
     }
 
-    MainLoop& loop_;
-    Journal& journal_;
     const Site& site_;
     std::weak_ptr<NavigationDelegate> delegate_;
     std::string userAgent_ = "default";
@@ -179,24 +173,20 @@ private:
     unsigned loads_ = 0;
 };
 
-class SimulatedBrowserViews final : public BrowserViews {
+class SimulatedBrowserViews final : public BrowserViews, Part {
 public:
-    SimulatedBrowserViews(MainLoop& loop, Journal& journal) : loop_(loop), journal_(journal) {}
+    using Part::Part;
 
     [[nodiscard]] std::shared_ptr<BrowserView> make() override
     {
         loop_.requireMainThread();
         journal_.add("browser view");
-        return latest = std::make_shared<SimulatedBrowserView>(loop_, journal_, site);
+        return latest = std::make_shared<SimulatedBrowserView>(common_, site);
     }
 
     Site site;
     /// The view that was made last.
     std::shared_ptr<SimulatedBrowserView> latest;
-
-private:
-    MainLoop& loop_;
-    Journal& journal_;
 };
 
 } // namespace orken::simulated

@@ -12,9 +12,9 @@
 namespace orken::simulated {
 
 /// A whole desktop in memory. Tests hand its parts to the product and play the user and the outside.
-class SimulatedDesktop {
+class SimulatedDesktop : public Common {
 public:
-    explicit SimulatedDesktop(DesktopOptions options = {}) : windows(loop, notifications, journal, options)
+    explicit SimulatedDesktop(DesktopOptions options = {}) : windows(*this, options)
     {
         windows.onLastClosed = [this] { application.terminate(); };
         application.beforeEnd = [this] {
@@ -23,31 +23,28 @@ public:
         };
     }
 
-    Journal journal;
-    MainLoop loop;
     MainQueue& mainQueue{loop};
     Timers& timers{loop};
-    NotificationCenter notifications;
     KeyMonitors keyMonitors;
     SimulatedWindows windows;
-    SimulatedApplication application{loop, windows, journal};
-    SimulatedAlerts alerts{loop, windows, application, journal};
-    SimulatedConsole console{journal};
+    SimulatedApplication application{*this, windows};
+    SimulatedAlerts alerts{*this, windows, application};
+    SimulatedConsole console{*this};
     SimulatedClock clock;
     SimulatedRandom random;
     SimulatedScreens screens;
-    SimulatedWorkspace workspace{journal};
-    SimulatedApplications runningApplications{journal};
+    SimulatedWorkspace workspace{*this};
+    SimulatedApplications runningApplications{*this};
     SimulatedHardware hardware;
     SimulatedBundle bundle;
-    SimulatedCookies cookies{journal};
-    SimulatedFiles files{journal};
-    SimulatedNetwork network{loop, journal};
+    SimulatedCookies cookies{*this};
+    SimulatedFiles files{*this};
+    SimulatedNetwork network{*this};
     UrlSession& urlSession{network};
     ContentsReader& contentsReader{network};
-    SimulatedWebsiteData websiteData{loop, journal};
-    SimulatedBrowserViews browserViews{loop, journal};
-    SimulatedAnimationSurfaces animationSurfaces{loop};
+    SimulatedWebsiteData websiteData{*this};
+    SimulatedBrowserViews browserViews{*this};
+    SimulatedAnimationSurfaces animationSurfaces{*this};
 
     /// The visible window that shows the text; null when there is none.
     [[nodiscard]] SimulatedWindows::WindowPtr showing(const std::string& text) const

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Files.h"
-#include "simulated/Journal.h"
+#include "simulated/Part.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -14,11 +14,11 @@
 namespace orken::simulated {
 
 /// Folders and files in memory, listed in the order in which they were made.
-class SimulatedFiles final : public Files {
+class SimulatedFiles final : public Files, Part {
 public:
     using Path = std::filesystem::path;
 
-    explicit SimulatedFiles(Journal& journal) : journal_(journal) {}
+    using Part::Part;
 
     [[nodiscard]] Path homeDirectory() const override { return "/home/student"; }
 
@@ -47,9 +47,8 @@ public:
 
     [[nodiscard]] Outcome<void> removeItem(const Path& item) override
     {
-        const auto failing = failingRemovals.find(item);
-        if (failing != failingRemovals.end() || !exists(item)) {
-            return failure(item, failing == failingRemovals.end() ? ENOENT : failing->second);
+        if (const int code = codeOf(item, failingRemovals, exists(item) ? 0 : ENOENT)) {
+            return failure(item, code);
         }
         for (const Path& inside : std::vector(items_)) {
             if (inside.parent_path() == item) {
@@ -66,8 +65,8 @@ public:
 
     [[nodiscard]] Outcome<void> createDirectory(const Path& directory) override
     {
-        if (const auto failing = failingWrites.find(directory); failing != failingWrites.end()) {
-            return failure(directory, failing->second);
+        if (const int code = codeOf(directory, failingWrites, 0)) {
+            return failure(directory, code);
         }
         if (!exists(directory)) {
             addFile(directory);
@@ -87,8 +86,8 @@ public:
 
     [[nodiscard]] Outcome<void> writeFile(const Path& file, const Bytes& content) override
     {
-        if (const auto failing = failingWrites.find(file); failing != failingWrites.end() || folders_.contains(file)) {
-            return failure(file, failing != failingWrites.end() ? failing->second : EISDIR);
+        if (const int code = codeOf(file, failingWrites, folders_.contains(file) ? EISDIR : 0)) {
+            return failure(file, code);
         }
         if (!exists(file)) {
             addFile(file);
@@ -99,13 +98,7 @@ public:
     }
 
     /// The folders above are made where they are missing.
-    void addFile(const Path& file, const std::string& content)
-    {
-        addFile(file);
-        contents[file] = toBytes(content);
-    }
-
-    void addFile(const Path& file)
+    void addFile(const Path& file, const std::optional<std::string>& content = std::nullopt)
     {
         const Path folder = file.parent_path();
         if (folder.has_relative_path() && !exists(folder)) {
@@ -113,6 +106,9 @@ public:
         }
         folders_.insert(folder);
         items_.push_back(file);
+        if (content) {
+            contents[file] = toBytes(*content);
+        }
     }
 
     [[nodiscard]] bool exists(const Path& item) const
@@ -130,12 +126,17 @@ public:
     std::map<Path, Bytes> contents;
 
 private:
+    static int codeOf(const Path& item, const std::map<Path, int>& failing, int otherwise)
+    {
+        const auto place = failing.find(item);
+        return place == failing.end() ? otherwise : place->second;
+    }
+
     static PlatformError failure(const Path& item, int code)
     {
         return platformError("posix", code, item.string(), "error " + std::to_string(code));
     }
 
-    Journal& journal_;
     std::vector<Path> items_;
     std::set<Path> folders_;
 };

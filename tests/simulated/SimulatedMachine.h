@@ -9,7 +9,7 @@
 #include "platform/RunningApplications.h"
 #include "platform/Screens.h"
 #include "platform/Workspace.h"
-#include "simulated/Journal.h"
+#include "simulated/Part.h"
 #include "simulated/Require.h"
 
 #include <map>
@@ -18,14 +18,11 @@
 
 namespace orken::simulated {
 
-class SimulatedConsole final : public Console {
+class SimulatedConsole final : public Console, Part {
 public:
-    explicit SimulatedConsole(Journal& journal) : journal_(journal) {}
+    using Part::Part;
 
     void printLine(std::string_view line) override { journal_.add("print " + std::string(line)); }
-
-private:
-    Journal& journal_;
 };
 
 /// Stands still until it is set.
@@ -54,9 +51,9 @@ struct SimulatedScreens final : Screens {
     std::optional<Rect> frame = Rect{.width = 1920, .height = 1080};
 };
 
-class SimulatedWorkspace final : public Workspace {
+class SimulatedWorkspace final : public Workspace, Part {
 public:
-    explicit SimulatedWorkspace(Journal& journal) : journal_(journal) {}
+    using Part::Part;
 
     bool open(const std::string& url) override
     {
@@ -65,14 +62,11 @@ public:
     }
 
     void activateFileViewer(const std::filesystem::path& file) override { journal_.add("reveal " + file.string()); }
-
-private:
-    Journal& journal_;
 };
 
-class SimulatedApplications final : public RunningApplications {
+class SimulatedApplications final : public RunningApplications, Part {
 public:
-    explicit SimulatedApplications(Journal& journal) : journal_(journal) {}
+    using Part::Part;
 
     [[nodiscard]] std::vector<RunningApplication> all() override { return running_; }
 
@@ -93,7 +87,6 @@ public:
     }
 
 private:
-    Journal& journal_;
     /// The client first.
     std::vector<RunningApplication> running_{{"com.orken.test", "ORKEN", std::make_shared<char>()}};
 };
@@ -116,14 +109,11 @@ struct SimulatedBundle final : BundleInfo {
     std::map<std::string, InfoValue> values{{kBundleShortVersionKey, InfoValue("2.1")}};
 };
 
-class SimulatedCookies final : public CookieStorage {
+class SimulatedCookies final : public CookieStorage, Part {
 public:
-    explicit SimulatedCookies(Journal& journal) : journal_(journal) {}
+    using Part::Part;
 
     void removeAllCookies() override { journal_.add("remove cookies"); }
-
-private:
-    Journal& journal_;
 };
 
 } // namespace orken::simulated

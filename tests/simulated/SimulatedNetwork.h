@@ -3,8 +3,7 @@
 #include "foundation/Url.h"
 #include "platform/ContentsReader.h"
 #include "platform/UrlSession.h"
-#include "simulated/Journal.h"
-#include "simulated/MainLoop.h"
+#include "simulated/Part.h"
 
 #include <map>
 #include <string>
@@ -24,9 +23,9 @@ struct Route {
 };
 
 /// The network of the URL session and the blocking read. Connections to addresses without a route are refused.
-class SimulatedNetwork final : public UrlSession, public ContentsReader {
+class SimulatedNetwork final : public UrlSession, public ContentsReader, Part {
 public:
-    SimulatedNetwork(MainLoop& loop, Journal& journal) : loop_(loop), journal_(journal) {}
+    using Part::Part;
 
     void startDataTask(const std::string& url, std::function<void(DataTaskResult)> completion) override
     {
@@ -62,9 +61,6 @@ private:
         const auto place = routes.find(url);
         return place != routes.end() ? place->second : Route{.error = platformError("network", 2, url, "refused")};
     }
-
-    MainLoop& loop_;
-    Journal& journal_;
 };
 
 } // namespace orken::simulated

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "platform/WebsiteDataStore.h"
-#include "simulated/Journal.h"
-#include "simulated/MainLoop.h"
+#include "simulated/Part.h"
 
 #include <deque>
 #include <string>
@@ -11,11 +10,11 @@
 namespace orken::simulated {
 
 /// What the sites have left behind. Requests are carried out on a later turn.
-class SimulatedWebsiteData final : public WebsiteDataStore {
+class SimulatedWebsiteData final : public WebsiteDataStore, Part {
 public:
-    SimulatedWebsiteData(MainLoop& loop, Journal& journal) : journal_(journal)
+    explicit SimulatedWebsiteData(Common& common) : Part(common)
     {
-        loop.addSource([this] { return finish(); });
+        loop_.addSource([this] { return finish(); });
     }
 
     void fetchDataRecords(WebsiteDataTypes, std::function<void(std::vector<WebsiteDataRecord>)> completion) override
@@ -56,7 +55,6 @@ public:
     std::vector<WebsiteDataRecord> records;
 
 private:
-    Journal& journal_;
     std::deque<std::function<void()>> pending_;
 };
 

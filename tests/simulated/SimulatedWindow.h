@@ -1,10 +1,8 @@
 #pragma once
 
 #include "platform/FullScreenTransition.h"
-#include "platform/NotificationCenter.h"
 #include "platform/WindowRegistry.h"
-#include "simulated/Journal.h"
-#include "simulated/MainLoop.h"
+#include "simulated/Part.h"
 #include "simulated/StubViewHost.h"
 #include "view/ViewTree.h"
 
@@ -20,17 +18,10 @@ struct DesktopOptions {
     bool permanentPanel = true;
 };
 
-class SimulatedWindow final : public Window, public std::enable_shared_from_this<SimulatedWindow> {
+class SimulatedWindow final : public Window, Part, public std::enable_shared_from_this<SimulatedWindow> {
 public:
-    struct Surroundings {
-        MainLoop& loop;
-        NotificationCenter& notifications;
-        Journal& journal;
-        WindowRegistry& registry;
-    };
-
-    SimulatedWindow(const Surroundings& surroundings, WindowKind kind, WindowStyleMask styleMask)
-        : surroundings_(surroundings), kind_(kind), styleMask_(styleMask)
+    SimulatedWindow(Common& common, WindowRegistry& registry, WindowKind kind, WindowStyleMask styleMask)
+        : Part(common), registry_(registry), kind_(kind), styleMask_(styleMask)
     {
     }
 
@@ -46,46 +37,46 @@ public:
     void setTitle(const std::string& title) override
     {
         title_ = title;
-        surroundings_.journal.add("title " + title);
+        journal_.add("title " + title);
     }
 
-    void center() override { surroundings_.journal.add("center"); }
+    void center() override { journal_.add("center"); }
 
     void makeKeyAndOrderFront() override
     {
         visible_ = true;
-        surroundings_.registry.gotKeyboard(*this);
-        surroundings_.journal.add("show " + title_);
+        registry_.gotKeyboard(*this);
+        journal_.add("show " + title_);
     }
 
     void setContentView(std::unique_ptr<View> root) override
     {
-        surroundings_.loop.requireMainThread();
+        loop_.requireMainThread();
         dropContent();
-        surroundings_.journal.add("content " + title_);
+        journal_.add("content " + title_);
         tree_ = ViewTree::make(*content_, std::move(root));
     }
 
     void toggleFullScreen() override
     {
-        if (kind_ != WindowKind::application || !visible_) {
-            return;
+        const bool canChange = kind_ == WindowKind::application && visible_;
+        if (const auto change = canChange ? fullScreen_.toggle() : std::nullopt) {
+            const bool enters = change == FullScreenChange::willEnter;
+            journal_.add((enters ? "enter full screen " : "leave full screen ") + title_);
+            post(*change);
+            loop_.later(kTransitionTime, [self = shared_from_this(), enters] {
+                for (const FullScreenChange end : self->fullScreen_.reported(enters)) {
+                    self->post(end);
+                }
+            });
         }
-        const auto change = fullScreen_.toggle();
-        if (!change) {
-            return;
-        }
-        const bool enters = change == FullScreenChange::willEnter;
-        surroundings_.journal.add((enters ? "enter full screen " : "leave full screen ") + title_);
-        post(*change);
-        surroundings_.loop.later(kTransitionTime, [self = shared_from_this(), enters] { self->endTransition(enters); });
     }
 
     void close() override
     {
-        surroundings_.loop.requireMainThread();
+        loop_.requireMainThread();
         const auto keep = shared_from_this();
-        surroundings_.journal.add("close " + title_);
+        journal_.add("close " + title_);
         visible_ = false;
         onClose();
     }
@@ -112,16 +103,9 @@ public:
 private:
     static constexpr Seconds kTransitionTime{0.05};
 
-    void post(FullScreenChange change) { surroundings_.notifications.post(notificationName(change)); }
+    void post(FullScreenChange change) { common_.notifications.post(notificationName(change)); }
 
-    void endTransition(bool fullScreen)
-    {
-        for (const FullScreenChange change : fullScreen_.reported(fullScreen)) {
-            post(change);
-        }
-    }
-
-    Surroundings surroundings_;
+    WindowRegistry& registry_;
     WindowKind kind_;
     WindowStyleMask styleMask_;
     std::string title_;

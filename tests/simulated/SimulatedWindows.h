@@ -11,17 +11,16 @@
 
 namespace orken::simulated {
 
-class SimulatedWindows final : public Windows {
+class SimulatedWindows final : public Windows, Part {
 public:
     using WindowPtr = std::shared_ptr<SimulatedWindow>;
 
-    SimulatedWindows(MainLoop& loop, NotificationCenter& notifications, Journal& journal, DesktopOptions options)
-        : surroundings_{loop, notifications, journal, registry_}
+    SimulatedWindows(Common& common, DesktopOptions options) : Part(common)
     {
         if (options.permanentPanel) {
             permanentPanel_ = add(WindowKind::panel, windowStyle::kTitled);
         }
-        loop.addSource([this] {
+        loop_.addSource([this] {
             bool worked = false;
             for (const auto& window : list()) {
                 worked |= window->isVisible() ? window->content().runFrame() : window->content().redraw();
@@ -36,10 +35,9 @@ public:
 
     [[nodiscard]] std::shared_ptr<Window> makeWindow(const Rect& contentRect, WindowStyleMask styleMask) override
     {
-        surroundings_.loop.requireMainThread();
-        surroundings_.journal.add("make window " + std::to_string(static_cast<int>(contentRect.width)) + "x" +
-                                  std::to_string(static_cast<int>(contentRect.height)) + " style " +
-                                  std::to_string(styleMask));
+        loop_.requireMainThread();
+        journal_.add("make window " + std::to_string(static_cast<int>(contentRect.width)) + "x" +
+                     std::to_string(static_cast<int>(contentRect.height)) + " style " + std::to_string(styleMask));
         return add(WindowKind::application, styleMask);
     }
 
@@ -60,7 +58,7 @@ public:
             const auto closed = weak.lock();
             registry_.remove(*closed);
             // The pressed button may be inside: the widgets go on a later turn.
-            surroundings_.loop.later(Seconds{0}, [closed] { closed->dropContent(); });
+            loop_.later(Seconds{0}, [closed] { closed->dropContent(); });
         };
         window->setContentView(group.content());
     }
@@ -121,13 +119,12 @@ public:
 private:
     WindowPtr add(WindowKind kind, WindowStyleMask styleMask)
     {
-        auto window = std::make_shared<SimulatedWindow>(surroundings_, kind, styleMask);
+        auto window = std::make_shared<SimulatedWindow>(common_, registry_, kind, styleMask);
         registry_.add(window, kind);
         return window;
     }
 
     WindowRegistry registry_;
-    SimulatedWindow::Surroundings surroundings_;
     WindowPtr permanentPanel_;
 };
 

@@ -19,6 +19,22 @@ bool runAll(std::vector<std::function<void()>>& callbacks)
     return !due.empty();
 }
 
+bool isVisible(const Modifiers& modifiers)
+{
+    return modifiers.opacity > 0;
+}
+
+bool canBeUsed(const Modifiers& modifiers)
+{
+    return modifiers.enabled && isVisible(modifiers);
+}
+
+/// Ends the program at a step that is not valid for this node.
+void requireStep(bool condition, NodeId id, const std::string& misuse)
+{
+    require(condition, "node " + std::to_string(id) + " " + misuse);
+}
+
 } // namespace
 
 void StubViewHost::apply(const Mutations& mutations, ViewEvents& events)
@@ -30,68 +46,63 @@ void StubViewHost::apply(const Mutations& mutations, ViewEvents& events)
         std::visit([this](const auto& change) { take(change); }, step);
     }
     for (const auto& [id, node] : nodes_) {
-        if (id != kRootContainer && !node.parent) {
-            require(false, name(id) + " was created and not inserted");
-        }
-        if (auto* view = node.view ? static_cast<SeenView*>(node.view->native()) : nullptr) {
-            view->setSeen(isSeen(id));
+        requireStep(id == kRootContainer || node.parent, id, "was created and not inserted");
+        if (auto* seen = node.view ? static_cast<SeenView*>(node.view->native()) : nullptr) {
+            seen->setSeen(holdsUpwards(id, isVisible));
         }
     }
 }
 
 void StubViewHost::take(const mutation::Create& step)
 {
+    const NodeId id = step.node->id;
     const Element& element = step.node->element;
-    const auto id = std::to_string(step.node->id);
-    require(!element.isEmpty(), "an empty element was created as node " + id);
+    requireStep(!element.isEmpty(), id, "was created for an empty element");
     Node node{.content = element.content(), .modifiers = element.modifiers()};
     if (step.node->representation) {
         node.view = step.node->representation->platformView();
-        require(!findIf([&](const Node& other) { return other.view == node.view; }),
-                "the native view of node " + id + " is in another place too");
+        requireStep(!findIf([&](const Node& other) { return other.view == node.view; }), id,
+                    "has a native view that is in another place too");
     }
-    require(nodes_.try_emplace(step.node->id, std::move(node)).second, name(step.node->id) + " was created twice");
+    requireStep(nodes_.try_emplace(id, std::move(node)).second, id, "was created twice");
 }
 
 void StubViewHost::take(const mutation::Delete& step)
 {
     const Node& node = at(step.id);
-    require(step.id != kRootContainer, "the window's content area was deleted");
-    require(!node.parent, name(step.id) + " was deleted before it was removed");
-    require(node.children.empty(), name(step.id) + " was deleted with children");
+    requireStep(step.id != kRootContainer && !node.parent, step.id, "was deleted before it was removed");
+    requireStep(node.children.empty(), step.id, "was deleted with children");
     nodes_.erase(step.id);
 }
 
 void StubViewHost::take(const mutation::Insert& step)
 {
     auto& siblings = at(step.parent).children;
-    require(!at(step.child).parent, name(step.child) + " was inserted twice");
-    require(step.index <= siblings.size(), name(step.child) + " was inserted at " + std::to_string(step.index) +
-                                               " of " + std::to_string(siblings.size()) + " children of " +
-                                               name(step.parent));
+    requireStep(!at(step.child).parent, step.child, "was inserted twice");
+    requireStep(step.index <= siblings.size(), step.child, "was inserted behind the end");
     at(step.child).parent = step.parent;
     siblings.insert(siblings.begin() + static_cast<std::ptrdiff_t>(step.index), step.child);
 }
 
 void StubViewHost::take(const mutation::Remove& step)
 {
-    require(at(step.child).parent == step.parent,
-            name(step.child) + " was removed from " + name(step.parent) + ", which is not its parent");
+    requireStep(at(step.child).parent == step.parent, step.child, "was removed from what is not its parent");
     at(step.child).parent.reset();
     std::erase(at(step.parent).children, step.child);
 }
 
 void StubViewHost::take(const mutation::Update& step)
 {
-    Node& node = at(step.after->id);
+    const NodeId id = step.after->id;
     const Element& before = step.before->element;
     const Element& after = step.after->element;
-    require(node.content == before.content() && node.modifiers == before.modifiers(),
-            "an update of " + name(step.after->id) + " begins with what is not there");
+    Node& node = at(id);
+    requireStep(node.content == before.content() && node.modifiers == before.modifiers(), id,
+                "is updated from what is not there");
     const bool sameWidget = before.content().index() == after.content().index() &&
                             before.modifiers().needsBox() == after.modifiers().needsBox();
-    require(sameWidget, "an update of " + name(step.after->id) + " needs another widget");
-    require(!sameAppearance(before, after), "an update of " + name(step.after->id) + " changes nothing");
+    requireStep(sameWidget, id, "needs another widget than its update says");
+    requireStep(!sameAppearance(before, after), id, "is updated without a change");
     node.content = after.content();
     node.modifiers = after.modifiers();
 }
@@ -110,25 +121,19 @@ bool StubViewHost::runFrame()
 StubViewHost::Node& StubViewHost::at(NodeId id)
 {
     const auto place = nodes_.find(id);
-    require(place != nodes_.end(), name(id) + " does not exist");
+    requireStep(place != nodes_.end(), id, "does not exist");
     return place->second;
 }
 
-std::string StubViewHost::name(NodeId id) const
+bool StubViewHost::looksLike(const StubViewHost& other) const
 {
-    const auto place = nodes_.find(id);
-    const auto* text = place == nodes_.end() ? nullptr : std::get_if<TextContent>(&place->second.content);
-    return "node " + std::to_string(id) + (text ? " \"" + text->text + '"' : "");
-}
-
-std::vector<StubViewHost::Rendered> StubViewHost::render(NodeId parent) const
-{
-    std::vector<Rendered> result;
-    for (const NodeId id : nodes_.at(parent).children) {
-        const Node& node = nodes_.at(id);
-        result.push_back({.content = node.content, .modifiers = node.modifiers, .children = render(id)});
-    }
-    return result;
+    const std::function<bool(NodeId, NodeId)> same = [&](NodeId mine, NodeId others) {
+        const Node& left = nodes_.at(mine);
+        const Node& right = other.nodes_.at(others);
+        return left.content == right.content && left.modifiers == right.modifiers &&
+               std::ranges::equal(left.children, right.children, same);
+    };
+    return same(kRootContainer, kRootContainer);
 }
 
 template <class Test>
@@ -154,22 +159,17 @@ NodeId StubViewHost::idOf(const std::string& text) const
     return *id;
 }
 
+template <class Test>
+bool StubViewHost::holdsUpwards(NodeId id, const Test& test) const
+{
+    const Node& node = nodes_.at(id);
+    return test(node.modifiers) && (!node.parent || holdsUpwards(*node.parent, test));
+}
+
 bool StubViewHost::isUsable(const PlatformView& view) const
 {
     const auto id = findIf([&](const Node& node) { return node.view.get() == &view; });
-    return id && isUsable(*id);
-}
-
-bool StubViewHost::isSeen(NodeId id) const
-{
-    const Node& node = nodes_.at(id);
-    return node.modifiers.opacity > 0 && (!node.parent || isSeen(*node.parent));
-}
-
-bool StubViewHost::isUsable(NodeId id) const
-{
-    const Node& node = nodes_.at(id);
-    return node.modifiers.enabled && node.modifiers.opacity > 0 && (!node.parent || isUsable(*node.parent));
+    return id && holdsUpwards(*id, canBeUsed);
 }
 
 void StubViewHost::press(const std::string& text)
@@ -179,7 +179,7 @@ void StubViewHost::press(const std::string& text)
         button = nodes_.at(*button).parent;
     }
     require(button.has_value(), "the text stands in no button: " + text);
-    require(isUsable(*button), "the button is disabled or hidden: " + text);
+    require(holdsUpwards(*button, canBeUsed), "the button is disabled or hidden: " + text);
     events_->pressed(*button);
 }
 
@@ -193,10 +193,7 @@ void StubViewHost::answerAlert(const std::string& title)
 {
     const auto id = findIf([](const Node& node) { return node.modifiers.alert.has_value(); });
     require(id.has_value(), "there is no alert to answer");
-    const auto buttons = alert()->buttons;
-    const auto place = std::find_if(buttons.begin(), buttons.end(), [&](auto& one) { return one.title == title; });
-    require(place != buttons.end(), "the alert has no button " + title);
-    events_->alertAnswered(*id, static_cast<std::size_t>(place - buttons.begin()));
+    events_->alertAnswered(*id, positionOf(title, *alert()));
 }
 
 void StubViewHost::layOut(Size size)
@@ -208,6 +205,14 @@ void StubViewHost::layOut(Size size)
             events_->resized(id, size);
         }
     }
+}
+
+std::size_t positionOf(const std::string& button, const Alert& alert)
+{
+    const auto place = std::find_if(alert.buttons.begin(), alert.buttons.end(),
+                                    [&](const AlertButton& one) { return one.title == button; });
+    require(place != alert.buttons.end(), "the alert has no button " + button);
+    return static_cast<std::size_t>(place - alert.buttons.begin());
 }
 
 } // namespace orken::simulated

@@ -15,14 +15,6 @@ namespace orken::simulated {
 /// not valid.
 class StubViewHost final : public ViewHost {
 public:
-    /// What can be seen, to be compared.
-    struct Rendered {
-        Content content;
-        Modifiers modifiers;
-        std::vector<Rendered> children;
-        bool operator==(const Rendered&) const = default;
-    };
-
     void apply(const Mutations& mutations, ViewEvents& events) override;
 
     void beforeNextFrame(std::function<void()> callback) override { beforeFrame_.push_back(std::move(callback)); }
@@ -34,8 +26,8 @@ public:
     /// A redraw and the frame that shows it.
     bool runFrame();
 
-    /// Empty for an empty tree.
-    [[nodiscard]] std::vector<Rendered> rendered() const { return render(kRootContainer); }
+    /// Whether a person would see no difference.
+    [[nodiscard]] bool looksLike(const StubViewHost& other) const;
 
     [[nodiscard]] std::size_t mutationCount() const { return mutationCount_; }
 
@@ -55,6 +47,7 @@ public:
 
 private:
     struct Node {
+        // Of the element and not the element: that would keep views alive.
         Content content;
         Modifiers modifiers;
         std::shared_ptr<PlatformView> view;
@@ -68,14 +61,12 @@ private:
     void take(const mutation::Remove& step);
     void take(const mutation::Update& step);
     Node& at(NodeId id);
-    /// For messages: its number and, where it has one, its text.
-    [[nodiscard]] std::string name(NodeId id) const;
-    [[nodiscard]] std::vector<Rendered> render(NodeId parent) const;
-    [[nodiscard]] bool isSeen(NodeId id) const;
-    [[nodiscard]] bool isUsable(NodeId id) const;
     template <class Test>
     [[nodiscard]] std::optional<NodeId> findIf(const Test& test) const;
     [[nodiscard]] std::optional<NodeId> find(const std::string& text) const;
+    /// Whether the test holds for the modifiers of this node and of all around it.
+    template <class Test>
+    [[nodiscard]] bool holdsUpwards(NodeId id, const Test& test) const;
 
     std::map<NodeId, Node> nodes_{{kRootContainer, {}}};
     ViewEvents* events_ = nullptr;
@@ -83,5 +74,8 @@ private:
     std::vector<std::function<void()>> afterFrame_;
     std::size_t mutationCount_ = 0;
 };
+
+/// The button's place among those of the alert, which must have it.
+[[nodiscard]] std::size_t positionOf(const std::string& button, const Alert& alert);
 
 } // namespace orken::simulated

@@ -25,23 +25,23 @@ private:
 /// One view in a window of its own.
 class Screen {
 public:
-    explicit Screen(std::unique_ptr<View> root)
-        : mark_(root->invalidation()), tree(ViewTree::make(host, std::move(root)))
-    {
-    }
+    explicit Screen(std::unique_ptr<View> root) : root_(*root), tree(ViewTree::make(host, std::move(root))) {}
 
     explicit Screen(std::function<Element()> body) : Screen(std::make_unique<TestView>(std::move(body))) {}
 
     ~Screen() { tree->detach(); }
 
-    void redraw()
+    /// Of the whole view, or of one inside.
+    void redraw() { redraw(root_); }
+
+    void redraw(View& changed)
     {
-        mark_->mark();
+        changed.invalidation()->mark();
         host.runFrame();
     }
 
 private:
-    std::shared_ptr<Invalidation> mark_;
+    View& root_;
 
 public:
     simulated::StubViewHost host;
