@@ -27,6 +27,8 @@ public:
     [[nodiscard]] virtual std::filesystem::path makeFolder() = 0;
     /// An http address at which nobody listens.
     [[nodiscard]] virtual std::string refusedAddress() = 0;
+    /// An https address of a page whose server shows a certificate that nobody vouches for.
+    [[nodiscard]] virtual std::string untrustedPage() = 0;
 
     [[nodiscard]] virtual Ports ports() = 0;
 };

@@ -93,44 +93,23 @@ public:
         return "http://127.0.0.1:" + std::to_string(port) + "/";
     }
 
+    [[nodiscard]] std::string untrustedPage() override
+    {
+        auto answer = +[](SoupServer*, SoupServerMessage* message, const char*, GHashTable*, gpointer) {
+            soup_server_message_set_status(message, SOUP_STATUS_OK, nullptr);
+            soup_server_message_set_response(message, "text/html", SOUP_MEMORY_STATIC, "page", 4);
+        };
+        identity_ = std::make_unique<SelfSignedIdentity>();
+        untrusted_ = std::make_unique<LoopbackServer>(answer, identity_.get());
+        return untrusted_->url("/");
+    }
+
     [[nodiscard]] Ports ports() override { return portsOf(desktop_); }
 
 private:
+    std::unique_ptr<SelfSignedIdentity> identity_;
+    std::unique_ptr<LoopbackServer> untrusted_;
     Desktop desktop_{{.bundleIdentifier = "com.orken.contract", .version = "1.0"}};
-};
-
-/// Answers a server's certificate in one of three ways, and tells how its page's load ended.
-class Judge final : public NavigationDelegate {
-public:
-    Judge(bool makesExceptions, ChallengeDisposition answer) : makesExceptions_(makesExceptions), answer_(answer) {}
-
-    void didFailNavigation(BrowserView&, const PlatformError&) override { log += "failed "; }
-
-    void didFailProvisionalNavigation(BrowserView&, const PlatformError&) override { log += "failed "; }
-
-    void didFinishNavigation(BrowserView&) override { log += "finished "; }
-
-    void didReceiveAuthenticationChallenge(BrowserView&, const AuthenticationChallenge& challenge,
-                                           std::function<void(ChallengeDisposition)> decide) override
-    {
-        ASSERT_TRUE(challenge.serverTrust);
-        if (makesExceptions_) {
-            challenge.serverTrust->setOwnExceptions();
-        }
-        decide(answer_);
-    }
-
-    void decidePolicyForNavigationAction(BrowserView&, const NavigationAction&,
-                                         std::function<void(NavigationPolicy)> decide) override
-    {
-        decide(NavigationPolicy::allow);
-    }
-
-    std::string log;
-
-private:
-    bool makesExceptions_;
-    ChallengeDisposition answer_;
 };
 
 std::unique_ptr<ContractDesktop> makeDesktop()
@@ -168,32 +147,6 @@ TEST(ScriptValues, ofTheEngineAreWhatTheScriptsEndWith)
         EXPECT_TRUE(!result && !result.error().message.empty() &&
                     result.error().message.find('\n') == std::string::npos)
             << script;
-    }
-}
-
-TEST(Certificates, thatNobodyVouchesForPassByTheDelegatesExceptionAlone)
-{
-    gtk_init();
-    const desktop::SelfSignedIdentity identity;
-    auto page = +[](SoupServer*, SoupServerMessage* message, const char*, GHashTable*, gpointer) {
-        soup_server_message_set_status(message, SOUP_STATUS_OK, nullptr);
-        soup_server_message_set_response(message, "text/html", SOUP_MEMORY_STATIC, "page", 4);
-    };
-    const desktop::LoopbackServer server(page, &identity);
-    desktop::ContractSide desktop;
-    const std::tuple<bool, ChallengeDisposition, const char*> cases[] = {
-        {true, ChallengeDisposition::cancelAuthenticationChallenge, "failed "},
-        {false, ChallengeDisposition::useCredential, "failed "},
-        {true, ChallengeDisposition::useCredential, "finished "},
-    };
-    for (const auto& [makesExceptions, answer, end] : cases) {
-        const auto view = desktop.ports().browserViews.make();
-        const auto judge = std::make_shared<desktop::Judge>(makesExceptions, answer);
-        view->setNavigationDelegate(judge);
-        view->load({.url = server.url("/")});
-        EXPECT_TRUE(desktop.runUntil([&] { return !judge->log.empty(); }, Seconds{10}));
-        (void)desktop.runUntil([] { return false; }, Seconds{0.5});
-        EXPECT_EQ(judge->log, end);
     }
 }
 

@@ -32,6 +32,13 @@ public:
 
     [[nodiscard]] std::string refusedAddress() override { return "http://refused.example/"; }
 
+    [[nodiscard]] std::string untrustedPage() override
+    {
+        const std::string address = "https://untrusted.example/";
+        desktop_.browserViews.site[address] = {.untrusted = true};
+        return address;
+    }
+
     [[nodiscard]] Ports ports() override { return portsOf(desktop_); }
 
 private:
