@@ -1,6 +1,5 @@
 #include "foundation/Dates.h"
 #include "foundation/Decimal.h"
-#include "foundation/NumericCompare.h"
 
 #include <gtest/gtest.h>
 
@@ -27,19 +26,6 @@ TEST(Dates, localStampFollowsTheTimeZone)
     setenv("TZ", "XST-3", 1); // three hours east of Greenwich
     tzset();
     EXPECT_EQ(localStamp(kEpoch + 1735689599s + 999ms), "20250101_025959");
-}
-
-TEST(Numbers, versionTextsOrderByTheValueOfTheirNumbers)
-{
-    const std::string_view ascending[] = {"",    "0",    "00a",  "1",   "1.2",  "1.2.0", "1.2.9b", "1.2.10", "1.2b",
-                                          "1.4", "1.4 ", "1.10", "2.0", "10.0", "B1",    "b1",     "v1.4",   "ö1"};
-    for (const auto& left : ascending) {
-        for (const auto& right : ascending) {
-            EXPECT_EQ(numericCompare(left, right), &left <=> &right) << left << " | " << right;
-        }
-    }
-    EXPECT_EQ(numericCompare("18446744073709551617", "2"), std::strong_ordering::greater);
-    EXPECT_EQ(numericCompare("1.02", "1.2"), std::strong_ordering::equal);
 }
 
 TEST(Numbers, decimalTextsReadBack)
