@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <map>
+
 namespace orken::desktop {
 namespace {
 
@@ -9,6 +11,11 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr int kOwn = 50;
+
+/// By the class of their windows.
+const std::map<std::string, InstalledProgram> kInstalled{
+    {"Editor", {.identifier = "editor.desktop", .localizedName = "Düzenleyici"}},
+    {"Files", {.identifier = "files.desktop", .localizedName = "Dosyalar", .isFileManager = true}}};
 
 SessionFacts facts()
 {
@@ -18,16 +25,11 @@ SessionFacts facts()
             .startWindow = 900,
             .isAncestor = [](int process) { return process == 40; },
             .isOwn = [](int process) { return process == kOwn || process == 51; },
-            .installedProgram = [](const ClientWindow& window) -> std::optional<InstalledProgram> {
-                if (window.className == "Editor") {
-                    return InstalledProgram{.identifier = "editor.desktop", .localizedName = "Düzenleyici"};
-                }
-                if (window.className == "Files") {
-                    return InstalledProgram{
-                        .identifier = "files.desktop", .localizedName = "Dosyalar", .isFileManager = true};
-                }
-                return std::nullopt;
-            }};
+            .installedProgram =
+                [](const ClientWindow& window) {
+                    const auto place = kInstalled.find(window.className);
+                    return place == kInstalled.end() ? std::nullopt : std::optional(place->second);
+                }};
 }
 
 /// "identifier|name|windows" of each application.

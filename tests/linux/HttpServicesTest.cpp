@@ -42,20 +42,18 @@ void answer(SoupServer*, SoupServerMessage* message, const char* requested, GHas
         const char* cookie = soup_message_headers_get_one(soup_server_message_get_request_headers(message), "Cookie");
         soup_message_headers_append(headers, "Set-Cookie", "seat=7; path=/");
         reply(200, "text/plain", cookie ? cookie : "none");
-    } else if (path == "/moved") {
-        soup_server_message_set_redirect(message, SOUP_STATUS_FOUND, "/text");
-    } else if (path == "/round") {
-        soup_server_message_set_redirect(message, SOUP_STATUS_FOUND, "/round");
-    } else if (path == "/missing") {
-        soup_server_message_set_status(message, SOUP_STATUS_NOT_FOUND, nullptr);
-    } else if (path == "/silent") {
-        soup_server_message_pause(message);
+    } else if (path == "/moved" || path == "/round") {
+        soup_server_message_set_redirect(message, SOUP_STATUS_FOUND, path == "/moved" ? "/text" : "/round");
     } else if (path == "/stalling") {
         reply(200, "text/plain", "begin");
         soup_message_headers_set_content_length(headers, 500);
-    } else if (path == "/terminating") {
+    } else if (path == "/silent" || path == "/terminating") {
         soup_server_message_pause(message);
-        kill(getpid(), SIGTERM);
+        if (path == "/terminating") {
+            kill(getpid(), SIGTERM);
+        }
+    } else {
+        soup_server_message_set_status(message, SOUP_STATUS_NOT_FOUND, nullptr);
     }
 }
 

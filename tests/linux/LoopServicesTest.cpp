@@ -17,13 +17,6 @@ void serveUntil(Condition condition)
     }
 }
 
-void serveFor(Seconds duration)
-{
-    bool over = false;
-    const auto end = Source::after(duration, [&] { over = true; });
-    serveUntil([&] { return over; });
-}
-
 TEST(Source, aCallMayReplaceAndEndItsOwnSource)
 {
     auto text = std::make_unique<std::string>("kept");
@@ -37,26 +30,6 @@ TEST(Source, aCallMayReplaceAndEndItsOwnSource)
     });
     serveUntil([&] { return !source.isPending(); });
     EXPECT_EQ(read, "kept");
-}
-
-TEST(LoopTimers, standStillUnderAlertsAndThenFireOnce)
-{
-    AlertStack alerts;
-    LoopTimers timers(alerts);
-    const gint64 begin = g_get_monotonic_time();
-    int fires = 0;
-    int slowFires = 0;
-    timers.scheduleRepeating(50ms, [&] { ++fires; });
-    timers.scheduleRepeating(50s, [&] { ++slowFires; });
-    const auto alert = alerts.push();
-    serveFor(220ms);
-    EXPECT_EQ(fires, 0);
-    alerts.pop(alert);
-    timers.alertsEnded();
-    EXPECT_EQ(fires, 0);
-    serveUntil([&] { return fires >= 2; });
-    EXPECT_GE(g_get_monotonic_time() - begin, 250000);
-    EXPECT_EQ(slowFires, 0);
 }
 
 TEST(LoopServices, nothingRunsAfterTheirEnd)
@@ -76,7 +49,9 @@ TEST(LoopServices, nothingRunsAfterTheirEnd)
     const auto after = use();
     before->fire();
     after->fire();
-    serveFor(10ms);
+    bool over = false;
+    const auto end = Source::after(10ms, [&] { over = true; });
+    serveUntil([&] { return over; });
 }
 
 } // namespace

@@ -17,15 +17,14 @@
 
 namespace orken::desktop {
 
-/// A key with a certificate that nobody vouches for, in a file that lasts as long as this.
+/// A key with a certificate that nobody vouches for, in files that last as long as this.
 class SelfSignedIdentity {
 public:
-    SelfSignedIdentity() : file_(testing::TempDir() + "orken-identity-" + std::to_string(getpid()) + ".pem")
+    SelfSignedIdentity() : path_(testing::TempDir() + "orken-identity-" + std::to_string(getpid()))
     {
         const std::string command = "openssl req -x509 -newkey ec -pkeyopt ec_paramgen_curve:P-256 -nodes -days 2 "
                                     "-subj /CN=loopback -addext subjectAltName=IP:127.0.0.1 -keyout " +
-                                    file_ + " -out " + certificate() + " 2>/dev/null && cat " + certificate() + " >> " +
-                                    file_;
+                                    key() + " -out " + certificate() + " 2>/dev/null";
         EXPECT_EQ(std::system(command.c_str()), 0);
     }
 
@@ -34,17 +33,16 @@ public:
 
     ~SelfSignedIdentity()
     {
-        std::filesystem::remove(file_);
+        std::filesystem::remove(key());
         std::filesystem::remove(certificate());
     }
 
-    /// PEM: the key, then the certificate.
-    [[nodiscard]] const std::string& file() const { return file_; }
+    [[nodiscard]] std::string key() const { return path_ + ".key"; }
 
-    [[nodiscard]] std::string certificate() const { return file_ + ".cert"; }
+    [[nodiscard]] std::string certificate() const { return path_ + ".cert"; }
 
 private:
-    std::string file_;
+    std::string path_;
 };
 
 /// On 127.0.0.1, with a thread of its own; with an identity it speaks TLS.
@@ -74,8 +72,8 @@ private:
         const ThreadDefault current(context_);
         const auto server = GObjectPtr<SoupServer>::adopt(soup_server_new(nullptr, nullptr));
         if (identity) {
-            const auto certificate =
-                GObjectPtr<GTlsCertificate>::adopt(g_tls_certificate_new_from_file(identity->file().c_str(), nullptr));
+            const auto certificate = GObjectPtr<GTlsCertificate>::adopt(
+                g_tls_certificate_new_from_files(identity->certificate().c_str(), identity->key().c_str(), nullptr));
             soup_server_set_tls_certificate(server.get(), certificate.get());
         }
         soup_server_add_handler(server.get(), nullptr, answer, nullptr, nullptr);

@@ -73,10 +73,17 @@ struct Renderer {
 };
 
 /// Processes of this one that run or have not been collected.
-std::size_t children()
+std::vector<int> children()
 {
     std::ifstream list("/proc/thread-self/children");
-    return static_cast<std::size_t>(std::distance(std::istream_iterator<int>(list), std::istream_iterator<int>()));
+    return {std::istream_iterator<int>(list), std::istream_iterator<int>()};
+}
+
+std::string contentOf(const std::filesystem::path& file)
+{
+    std::stringstream content;
+    content << std::ifstream(file).rdbuf();
+    return content.str();
 }
 
 TEST(RendererProcess, worksWhateverNumbersItsDescriptorsHave)
@@ -99,9 +106,9 @@ TEST(RendererProcess, drawsFramesAndEndsWithItsOwner)
         EXPECT_EQ(pixels[0], 0U);
         EXPECT_EQ(renderer.draw({.frame = 4000, .width = 60, .height = 60}), pixels) << "beyond the last frame";
         EXPECT_EQ(renderer.draw({.frame = 3, .width = 120, .height = 30}).size(), 3600U);
-        EXPECT_EQ(children(), 1U);
+        EXPECT_EQ(children().size(), 1U);
     }
-    while (children() > 0) {
+    while (!children().empty()) {
         g_main_context_iteration(nullptr, FALSE);
     }
 }
@@ -133,10 +140,7 @@ TEST(RendererProcess, failsWhenItIsKilled)
 {
     Renderer renderer(document(kRedSquare));
     (void)renderer.draw();
-    int child = 0;
-    std::ifstream("/proc/thread-self/children") >> child;
-    ASSERT_GT(child, 0);
-    kill(child, SIGKILL);
+    kill(children().at(0), SIGKILL);
     EXPECT_TRUE(renderer.draw().empty());
 }
 
@@ -144,20 +148,16 @@ TEST(RendererProcess, isConfined)
 {
     Renderer renderer(document(kRedSquare));
     (void)renderer.draw();
-    int child = 0;
-    std::ifstream("/proc/thread-self/children") >> child;
+    const std::filesystem::path process = "/proc/" + std::to_string(children().at(0));
     // Its drawing threads, too.
-    for (const auto& thread : std::filesystem::directory_iterator("/proc/" + std::to_string(child) + "/task")) {
-        std::stringstream status;
-        status << std::ifstream(thread.path() / "status").rdbuf();
-        EXPECT_THAT(status.str(),
+    for (const auto& thread : std::filesystem::directory_iterator(process / "task")) {
+        EXPECT_THAT(contentOf(thread.path() / "status"),
                     testing::AllOf(testing::HasSubstr("NoNewPrivs:\t1"), testing::HasSubstr("Seccomp:\t2")));
     }
-    std::stringstream limits;
-    limits << std::ifstream("/proc/" + std::to_string(child) + "/limits").rdbuf();
-    EXPECT_THAT(limits.str(), testing::ContainsRegex("Max core file size +0 +0"));
+    const auto limits = contentOf(process / "limits");
+    EXPECT_THAT(limits, testing::ContainsRegex("Max core file size +0 +0"));
 #if !defined(__SANITIZE_ADDRESS__)
-    EXPECT_THAT(limits.str(), testing::ContainsRegex("Max address space +536870912 +536870912"));
+    EXPECT_THAT(limits, testing::ContainsRegex("Max address space +536870912 +536870912"));
 #endif
 }
 
