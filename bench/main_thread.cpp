@@ -62,7 +62,7 @@ int main(int argumentCount, char** arguments)
     gtk_init();
     orken::desktop::Desktop desktop({.bundleIdentifier = "com.orken.bench", .version = "1.0"});
     const orken::Endpoints endpoints{.bundleIdentifier = "com.orken.bench", .contentHost = "127.0.0.1:9"};
-    orken::MachineServices machine(portsOf(desktop), endpoints);
+    orken::MachineServices machine(orken::portsOf(desktop), endpoints);
 
     double first = 0;
     for (int tries = 0; tries < 200 && desktop.runningApplications.all().size() < windows; ++tries) {
@@ -78,7 +78,7 @@ int main(int argumentCount, char** arguments)
     orken::desktop::X11Applications fresh("com.orken.bench", [] { return std::string(g_getenv("DISPLAY")); });
     first = milliseconds([&] { (void)fresh.all(); });
 
-    const orken::VersionGate gate = orken::versionGate(portsOf(desktop), endpoints, machine);
+    const orken::VersionGate gate = orken::versionGate(orken::portsOf(desktop), endpoints, machine);
     orken::State<std::string> message({}, "");
     orken::State<bool> flag({}, false);
     const double check = milliseconds([&] { gate.checkAppVersion(message, flag); });
