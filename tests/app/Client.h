@@ -8,6 +8,9 @@
 
 namespace orken {
 
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+
 /// The whole client on a simulated desktop, with an echo server, a login page and something to clean up.
 class Client {
 public:
@@ -35,11 +38,6 @@ public:
         desktop.loop.run();
         desktop.loop.runBackground();
         desktop.loop.run();
-    }
-
-    [[nodiscard]] std::shared_ptr<simulated::SimulatedWindow> window(const std::string& title) const
-    {
-        return desktop.windows.find(title);
     }
 
     simulated::SimulatedDesktop desktop;

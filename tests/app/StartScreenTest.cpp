@@ -3,7 +3,6 @@
 namespace orken {
 
 using testing::_;
-using testing::ElementsAre;
 
 constexpr WindowStyleMask kSessionStyle =
     windowStyle::kTitled | windowStyle::kClosable | windowStyle::kMiniaturizable | windowStyle::kResizable;
@@ -20,7 +19,7 @@ TEST(StartScreen, theSessionOpensAfterTheHousekeeping)
                             "print Kapatılacak uygulama yok.",
                             "make window 640x480 style " + std::to_string(kSessionStyle), "center", "title ORKEN",
                             "show ORKEN", "content ORKEN"));
-    EXPECT_EQ(client.window(Client::kStartTitle), nullptr);
+    EXPECT_EQ(client.desktop.windows.find(Client::kStartTitle), nullptr);
 }
 
 TEST(StartScreen, aRefusalToCloseOtherApplicationsOpensNoSession)
@@ -31,7 +30,7 @@ TEST(StartScreen, aRefusalToCloseOtherApplicationsOpensNoSession)
     client.desktop.alerts.answerNext("Hayır");
     client.desktop.press("Uygulamayı Aç");
     EXPECT_EQ(client.desktop.journal.acts().back(), "terminated");
-    EXPECT_EQ(client.window("ORKEN"), nullptr);
+    EXPECT_EQ(client.desktop.windows.find("ORKEN"), nullptr);
 }
 
 TEST(StartScreen, quittingButtonsCleanUp)
@@ -42,7 +41,7 @@ TEST(StartScreen, quittingButtonsCleanUp)
         client.desktop.alerts.answerNext("Evet");
         client.desktop.press(button);
         const auto acts = client.desktop.journal.take();
-        EXPECT_THAT(std::vector(acts.end() - 4, acts.end()), testing::ElementsAreArray(kCleanUp)) << button;
+        EXPECT_THAT(std::vector(acts.end() - 4, acts.end()), ElementsAreArray(kCleanUp)) << button;
     }
 }
 

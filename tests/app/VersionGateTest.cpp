@@ -3,12 +3,9 @@
 namespace orken {
 namespace {
 
-using testing::ElementsAre;
-using testing::ElementsAreArray;
-
 std::optional<Alert> alertOf(const Client& client)
 {
-    return client.window(Client::kStartTitle)->content().alert();
+    return client.desktop.windows.find(Client::kStartTitle)->content().alert();
 }
 
 /// Of the alert, empty when there is none.
@@ -19,17 +16,11 @@ std::string messageOf(const Client& client)
 
 TEST(VersionGate, anotherVersionIsAskedForOnlyWhenItIsNewer)
 {
-    const struct {
-        std::string current;
-        std::string required;
-        std::string described;
-        bool isNewer = false;
-    } cases[] = {{"1.10", "1.9", "1.9"},
-                 {"1.2", "1.2", "1.2"},
-                 {"1.9", "1.10", "1.10", true},
-                 {"1.2", "1.2.0", "1.2.0", true},
-                 {"1", "1\"4", "1\\\"4", true}};
-
+    const std::tuple<std::string, std::string, std::string, bool> cases[] = {{"1.10", "1.9", "1.9", false},
+                                                                             {"1.2", "1.2", "1.2", false},
+                                                                             {"1.9", "1.10", "1.10", true},
+                                                                             {"1.2", "1.2.0", "1.2.0", true},
+                                                                             {"1", "1\"4", "1\\\"4", true}};
     for (const auto& [current, required, described, isNewer] : cases) {
         Client client;
         client.desktop.bundle.values[kBundleShortVersionKey] = current;
@@ -77,7 +68,7 @@ TEST(VersionGate, aClientWithoutAVersionCanOnlyBeClosed)
     EXPECT_EQ(alertOf(client)->message, "Uygulama sürümü alınamadı.");
     EXPECT_EQ(alertOf(client)->buttons.at(1).role, ButtonRole::cancel);
     (void)client.desktop.journal.take();
-    client.window(Client::kStartTitle)->content().answerAlert("Kapat");
+    client.desktop.windows.find(Client::kStartTitle)->content().answerAlert("Kapat");
     EXPECT_THAT(client.desktop.journal.acts(), ElementsAreArray(kCleanUp));
 }
 
@@ -88,7 +79,7 @@ TEST(VersionGate, theUpdateButtonReplacesTheClient)
     client.desktop.files.addFile("/Applications/Orken.app");
     client.start();
     (void)client.desktop.journal.take();
-    client.window(Client::kStartTitle)->content().answerAlert("Güncellemeyi İndir");
+    client.desktop.windows.find(Client::kStartTitle)->content().answerAlert("Güncellemeyi İndir");
     std::vector<std::string> acts{"remove /Applications/Orken.app", "print Uygulama başarıyla silindi.",
                                   "open https://content.example/program/mac/orkenv1.dmg"};
     acts.insert(acts.end(), kCleanUp.begin(), kCleanUp.end());
@@ -106,7 +97,7 @@ TEST(VersionGate, anAnswerAfterTheStartWindowHasGoneChangesNothing)
     client.desktop.loop.runBackground();
     client.desktop.loop.run();
     EXPECT_THAT(client.desktop.journal.starting("print Gelen veri null"), testing::SizeIs(1));
-    EXPECT_TRUE(client.window("ORKEN")->isVisible());
+    EXPECT_TRUE(client.desktop.windows.find("ORKEN")->isVisible());
 }
 
 } // namespace

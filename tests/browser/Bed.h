@@ -8,6 +8,12 @@
 
 namespace orken {
 
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::HasSubstr;
+using testing::SizeIs;
+using testing::StartsWith;
+
 /// The session's browser on a simulated desktop, with a view that has the session's navigation delegate.
 struct BrowserBed {
     BrowserBed() { view->setNavigationDelegate(coordinator); }

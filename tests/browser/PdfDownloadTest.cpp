@@ -5,9 +5,6 @@
 namespace orken {
 namespace {
 
-using testing::ElementsAre;
-using testing::ElementsAreArray;
-
 constexpr const char* kBlob = "blob:https://site.example/5c1e0e9a";
 constexpr const char* kFound = "print PDF dosyası bulundu, indiriliyor.";
 const std::string kFolder = "/home/student/Downloads/";
@@ -50,8 +47,8 @@ TEST(PdfDownload, asksThePageInTheClientsOwnWorld)
     Bed bed;
     (void)bed.download(kPdf);
     EXPECT_THAT(bed.script,
-                testing::AllOf(testing::StartsWith("function\n    async function fetchData(url) {\n"),
-                               testing::HasSubstr("    const blobUrl = \"blob:https://site.example/5c1e0e9a\";\n"),
+                testing::AllOf(StartsWith("function\n    async function fetchData(url) {\n"),
+                               HasSubstr("    const blobUrl = \"blob:https://site.example/5c1e0e9a\";\n"),
                                testing::EndsWith("\n    return { dataURL: await blobToDataURLAsync(blob), mimeType: "
                                                  "mimeType };")));
 }
@@ -149,7 +146,7 @@ TEST(PdfDownload, overlappingDownloadsAlertOneAfterTheOther)
     bed.desktop.loop.run();
     EXPECT_THAT(bed.desktop.journal.starting("write "),
                 ElementsAre("write " + kFolder + "a.pdf", "write " + kFolder + "b.pdf"));
-    EXPECT_THAT(bed.desktop.journal.starting("alert "), testing::SizeIs(2));
+    EXPECT_THAT(bed.desktop.journal.starting("alert "), SizeIs(2));
 }
 
 TEST(PdfDownload, aPageThatKeepsItsDocumentDoesNotHoldUpTheNext)
@@ -161,7 +158,7 @@ TEST(PdfDownload, aPageThatKeepsItsDocumentDoesNotHoldUpTheNext)
     bed.desktop.loop.advance(Seconds{600});
     bed.go("https://site.example/");
     EXPECT_EQ(bed.model->pageTitle.get(), "next");
-    EXPECT_THAT(bed.desktop.journal.starting("print "), testing::SizeIs(2)) << "the two schemes and nothing more";
+    EXPECT_THAT(bed.desktop.journal.starting("print "), SizeIs(2)) << "the two schemes and nothing more";
 }
 
 } // namespace

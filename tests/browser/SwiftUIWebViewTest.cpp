@@ -5,8 +5,6 @@
 namespace orken {
 namespace {
 
-using testing::Contains;
-
 constexpr const char* kPage = "https://site.example/";
 
 std::vector<std::string> actsOfMaking(const std::string& link)
@@ -38,9 +36,9 @@ TEST(SwiftUIWebView, anInvalidLinkIsNotLoaded)
 {
     for (const char* link : {"", "https://site.example/?param=A B"}) {
         const auto acts = actsOfMaking(link);
-        EXPECT_THAT(acts, testing::Not(Contains(testing::StartsWith("load"))));
-        EXPECT_THAT(acts, Contains("user script of the main frame: document.addEventListener(\"contextmenu\", "
-                                   "function(event) {\n    event.preventDefault();\n});"));
+        EXPECT_THAT(acts, testing::Not(testing::Contains(StartsWith("load"))));
+        EXPECT_THAT(acts, testing::Contains("user script of the main frame: document.addEventListener(\"contextmenu\", "
+                                            "function(event) {\n    event.preventDefault();\n});"));
     }
 }
 

@@ -3,9 +3,6 @@
 namespace orken {
 namespace {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
-
 constexpr const char* kQuit = "quit other";
 
 struct Bed : BrowserBed {
@@ -20,11 +17,6 @@ struct Bed : BrowserBed {
     {
         desktop.browserViews.site = {{url, {}}};
         go(url);
-        return pass();
-    }
-
-    std::vector<std::string> pass()
-    {
         (void)desktop.journal.take();
         services.updatePass.runUpdatePass(*view, model);
         return desktop.journal.take();
@@ -41,9 +33,20 @@ TEST(UpdatePass, guardsThePageThenReadsItsAddressThenChecks)
 TEST(UpdatePass, aViewWithoutAnAddressStartsNoCheck)
 {
     Bed bed;
-    EXPECT_THAT(bed.pass(), ElementsAre(HasSubstr("orken.shortcuts")));
+    EXPECT_THAT(bed.pass(""), ElementsAre(HasSubstr("orken.shortcuts")));
     bed.desktop.loop.advance(Seconds{60});
     EXPECT_THAT(bed.desktop.journal.take(), testing::IsEmpty());
+}
+
+TEST(PeriodicCheck, passesShareOneTimer)
+{
+    Bed bed;
+    for (std::size_t count = 1; count <= 3; ++count) {
+        bed.services.periodicCheck.run();
+        EXPECT_THAT(bed.desktop.journal.starting(kQuit), SizeIs(count));
+    }
+    bed.desktop.loop.advance(Seconds{60});
+    EXPECT_THAT(bed.desktop.journal.starting(kQuit), SizeIs(3 + 6));
 }
 
 TEST(UpdatePass, aVideoIsUncoveredOnlyWithATextToShow)

@@ -1,7 +1,6 @@
 #include "app/Client.h"
 
 namespace orken {
-namespace {
 
 constexpr const char* kVideo = "https://login.example/playlist/1?hash=B6xUEGCyo/eXAqNDLYnlZw==";
 constexpr Seconds kHour{3600};
@@ -16,7 +15,7 @@ struct Day : testing::Test {
         client.desktop.press("Uygulamayı Aç");
         client.desktop.loop.advance(Seconds{10});
         client.desktop.runningApplications.add("Geç");
-        EXPECT_TRUE(client.window("ORKEN")->content().isUsable(*client.desktop.browserViews.latest));
+        EXPECT_TRUE(client.desktop.windows.find("ORKEN")->content().isUsable(*client.desktop.browserViews.latest));
         (void)passHour();
     }
 
@@ -64,5 +63,4 @@ TEST_F(Day, aMachineThatSleptCatchesUpWithOneTickOfEachTimer)
     EXPECT_EQ(count(passHour(), "print X Position"), 720);
 }
 
-} // namespace
 } // namespace orken

@@ -8,6 +8,9 @@
 
 namespace orken {
 
+using testing::ElementsAre;
+using testing::IsEmpty;
+
 struct MachineBed {
     simulated::SimulatedDesktop desktop{{.permanentPanel = false}};
     MachineServices machine{portsOf(desktop), simulated::kEndpoints};

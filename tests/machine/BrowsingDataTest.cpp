@@ -5,8 +5,6 @@
 namespace orken {
 namespace {
 
-using testing::ElementsAre;
-
 const std::filesystem::path kFolder = "/home/student/.cache/com.orken.test";
 
 struct Bed : MachineBed {
@@ -43,17 +41,12 @@ TEST(BrowsingData, stopsAtAnEntryThatCannotBeRemoved)
     }
 }
 
-TEST(BrowsingData, withoutACachesFolderTheRestIsCleared)
-{
-    Bed bed;
-    EXPECT_THAT(bed.clear(), ElementsAre("remove cookies"));
-    bed.desktop.files.caches.clear();
-    EXPECT_THAT(bed.clear(), ElementsAre("remove cookies"));
-}
-
 TEST(BrowsingData, everySiteLosesWhatItsOwnRecordNamesInListOrder)
 {
     Bed bed;
+    EXPECT_THAT(bed.clear(), ElementsAre("remove cookies")) << "without a caches folder";
+    bed.desktop.loop.run();
+    bed.desktop.files.caches.clear();
     bed.desktop.websiteData.add("a.example", 1);
     bed.desktop.websiteData.add("b.example", 6);
     EXPECT_THAT(bed.clear(), ElementsAre("remove cookies")) << "the rest is only started";

@@ -3,9 +3,6 @@
 namespace orken {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 const std::vector<std::string> kSystem{"com.apple.finder",         "com.apple.dock",         "com.apple.Spotlight",
                                        "com.apple.systemuiserver", "com.apple.WindowServer", "com.apple.loginwindow",
                                        "com.apple.wallpaper.agent"};

@@ -6,8 +6,6 @@
 namespace orken {
 namespace {
 
-using testing::ElementsAre;
-
 const std::string kFolder = "/home/student/Library/Saved Application State/com.orken.test.savedState";
 const std::string kFile = kFolder + "/restorecount.plist";
 
@@ -63,26 +61,28 @@ TEST(SavedState, aFolderThatStaysIsOneLine)
                 ElementsAre("print Saved state dizini silinirken bir hata oluştu: " + kFolder + ": error 13"));
 }
 
-TEST(SavedState, aCounterIsRaisedToTheGreatestNumber)
+TEST(SavedState, aCounterIsRaisedToTheGreatestNumberAndAMissingOneIsZero)
 {
-    for (const auto& [before, after] : {std::pair<std::int64_t, std::int64_t>{4, 5}, {-1, 0}, {INT64_MAX, INT64_MAX}}) {
-        Bed bed;
-        bed.desktop.files.addFile(kFile, counter("<integer>" + std::to_string(before) + "</integer>"));
-        EXPECT_THAT(bed.update(), ElementsAre("print Restore Count değeri: " + std::to_string(before),
-                                              "print Yeni Restore Count değeri: " + std::to_string(after),
-                                              "print restorecount.plist dosyası güncellendi."));
-        EXPECT_EQ(bed.count(), after);
-    }
-}
-
-TEST(SavedState, aDictionaryWithoutACounterGetsOne)
-{
-    for (const std::string& content : {counter("<string>4</string>"), list("<dict/>")}) {
+    const auto raised = [](const std::string& before, const std::string& after) {
+        return std::vector<std::string>{"print Restore Count değeri: " + before,
+                                        "print Yeni Restore Count değeri: " + after,
+                                        "print restorecount.plist dosyası güncellendi."};
+    };
+    const std::vector<std::string> added{"print restoreCount anahtarı bulunamadı, varsayılan değer kullanılacak.",
+                                         "print Varsayılan restorecount.plist dosyası oluşturuldu."};
+    const std::string greatest = std::to_string(INT64_MAX);
+    const std::tuple<std::string, std::vector<std::string>, std::int64_t> cases[] = {
+        {counter("<integer>4</integer>"), raised("4", "5"), 5},
+        {counter("<integer>-1</integer>"), raised("-1", "0"), 0},
+        {counter("<integer>" + greatest + "</integer>"), raised(greatest, greatest), INT64_MAX},
+        {counter("<string>4</string>"), added, 0},
+        {list("<dict/>"), added, 0},
+    };
+    for (const auto& [content, lines, count] : cases) {
         Bed bed;
         bed.desktop.files.addFile(kFile, content);
-        EXPECT_THAT(bed.update(), ElementsAre("print restoreCount anahtarı bulunamadı, varsayılan değer kullanılacak.",
-                                              "print Varsayılan restorecount.plist dosyası oluşturuldu."));
-        EXPECT_EQ(bed.count(), 0) << content;
+        EXPECT_EQ(bed.update(), lines);
+        EXPECT_EQ(bed.count(), count) << content;
     }
 }
 

@@ -4,44 +4,34 @@
 
 namespace orken {
 
-using testing::ElementsAre;
-
 constexpr const char* kQuestion = "alert Uygulamayı silmek istediğinizden emin misiniz?: Bu işlem geri alınamaz";
 
-TEST(Uninstall, anAgreementEndsTheClient)
+TEST(Uninstall, onlyAnAgreementRemovesTheBundleAndEndsTheClient)
 {
-    const std::tuple<const char*, int, std::vector<std::string>> cases[] = {
-        {"/Applications/Orken.app/Contents/x",
-         0,
-         {"remove /Applications/Orken.app/Contents/x", "remove /Applications/Orken.app/Contents",
-          "remove /Applications/Orken.app", "print Uygulama başarıyla silindi."}},
-        {"/Applications/Orken.app/Contents/x",
-         EACCES,
-         {"print Uygulama silinirken hata oluştu: Error Domain=posix Code=13 \"/Applications/Orken.app: error 13\""}},
-        {"/opt/Orken.app/Contents/x", 0, {"print Uygulama bulunamadı."}},
+    const std::string bundle = "/Applications/Orken.app";
+    const std::tuple<const char*, std::string, std::string, std::vector<std::string>> cases[] = {
+        {"Evet",
+         bundle,
+         "",
+         {"remove " + bundle + "/x", "remove " + bundle, "print Uygulama başarıyla silindi.", "terminated"}},
+        {"Evet",
+         bundle,
+         bundle,
+         {"print Uygulama silinirken hata oluştu: Error Domain=posix Code=13 \"" + bundle + ": error 13\"",
+          "terminated"}},
+        {"Evet", "/opt/Orken.app", "", {"print Uygulama bulunamadı.", "terminated"}},
+        {"Hayır", bundle, "", {}},
     };
-    for (const auto& [file, code, lines] : cases) {
+    for (const auto& [answer, folder, failing, lines] : cases) {
         MachineBed bed;
-        bed.desktop.files.addFile(file);
-        if (code != 0) {
-            bed.desktop.files.failingRemovals["/Applications/Orken.app"] = code;
-        }
-        bed.desktop.alerts.answerNext("Evet");
+        bed.desktop.files.addFile(folder + "/x");
+        bed.desktop.files.failingRemovals[failing] = EACCES;
+        bed.desktop.alerts.answerNext(answer);
         bed.machine.uninstall.confirmUninstall();
         auto expected = lines;
         expected.insert(expected.begin(), kQuestion);
-        expected.emplace_back("terminated");
         EXPECT_EQ(bed.desktop.journal.acts(), expected);
     }
-}
-
-TEST(Uninstall, aRefusalLeavesEverythingAsItIs)
-{
-    MachineBed bed;
-    bed.desktop.files.addFile("/Applications/Orken.app/Contents/x");
-    bed.desktop.alerts.answerNext("Hayır");
-    bed.machine.uninstall.confirmUninstall();
-    EXPECT_THAT(bed.desktop.journal.acts(), ElementsAre(kQuestion));
 }
 
 } // namespace orken

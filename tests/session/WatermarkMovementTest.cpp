@@ -8,12 +8,6 @@ namespace orken {
 namespace {
 
 struct Bed {
-    std::vector<std::string> linesFor(Seconds duration)
-    {
-        desktop.loop.advance(duration);
-        return desktop.journal.take();
-    }
-
     simulated::SimulatedDesktop desktop;
     PageValues values;
     State<Point> position{{}, Point{}};
@@ -49,9 +43,11 @@ TEST(WatermarkMovement, aNewStartReplacesTheTimerOfFiveSeconds)
     Bed bed;
     for (int start = 0; start < 2; ++start) {
         bed.movement->startTextMovement();
-        EXPECT_THAT(bed.linesFor(Seconds{4.9}), testing::ElementsAre("print FullScreen startTextMovement"));
+        bed.desktop.loop.advance(Seconds{4.9});
+        EXPECT_THAT(bed.desktop.journal.take(), testing::ElementsAre("print FullScreen startTextMovement"));
     }
-    EXPECT_THAT(bed.linesFor(Seconds{10}), testing::SizeIs(2));
+    bed.desktop.loop.advance(Seconds{10});
+    EXPECT_THAT(bed.desktop.journal.take(), testing::SizeIs(2));
 }
 
 } // namespace
