@@ -38,17 +38,6 @@ TEST(UpdatePass, aViewWithoutAnAddressStartsNoCheck)
     EXPECT_THAT(bed.desktop.journal.take(), testing::IsEmpty());
 }
 
-TEST(PeriodicCheck, passesShareOneTimer)
-{
-    Bed bed;
-    for (std::size_t count = 1; count <= 3; ++count) {
-        bed.services.periodicCheck.run();
-        EXPECT_THAT(bed.desktop.journal.starting(kQuit), SizeIs(count));
-    }
-    bed.desktop.loop.advance(Seconds{60});
-    EXPECT_THAT(bed.desktop.journal.starting(kQuit), SizeIs(3 + 6));
-}
-
 TEST(UpdatePass, aVideoIsUncoveredOnlyWithATextToShow)
 {
     const std::string video = "https://h/course/playlist/1";

@@ -20,9 +20,11 @@ UPDATE_TITLE = "Güncelleme Gerekli"
 class MachineCase(ClientCase):
     def victim(self, window_class, *command):
         guest = self.desktop.spawn(["xterm", "-class", window_class, "-name", window_class, *command])
-        windows = self.desktop.screen.windows
-        wait_for(f"window of {window_class}", lambda: guest.pid in [window.pid for window in windows()], guests=[guest])
+        wait_for(f"window of {window_class}", lambda: self.window_of(guest), guests=[guest])
         return guest
+
+    def window_of(self, guest):
+        return next((window for window in self.desktop.screen.windows() if window.pid == guest.pid), None)
 
     def wait_for_alert(self, text):
         wait_for(f"the alert {text!r}", lambda: self.desktop.screen.active_title().startswith(text))
@@ -35,6 +37,15 @@ class Gate(MachineCase):
         self.wait_for_alert(UPDATE_TITLE)
         self.desktop.screen.key("Escape")
         self.assert_ends(client)
+        self.assertEqual(
+            self.stdout(client),
+            [
+                "Mevcut Sürüm: 1.0 - Gerekli Sürüm: 1.10",
+                "",
+                "Uygulama güncelleme gerekli.",
+                'Başarılı: AppData(macVersion: "1.10")',
+            ],
+        )
 
 
 class OtherApplications(MachineCase):
@@ -42,8 +53,10 @@ class OtherApplications(MachineCase):
         provider = self.provider()
         victims = [self.victim(name) for name in ("Bir", "İki", "Üç", "Dört", "Beş", "Altı")]
         kept = [self.victim(name) for name in ("Orca", "Xfce4-notifyd")]
-        command = ["xterm", "-e", f"{client_case.build_folder()}/demo/orken-demo", provider.ready_file]
-        terminal = self.desktop.spawn(command, environment=self.environment, name="terminal")
+        program = f"{client_case.build_folder()}/demo/orken-demo"
+        terminal = self.desktop.spawn(
+            ["xterm", "-e", program, provider.ready_file], environment=self.environment, name="terminal"
+        )
         start = wait_for("the start window", lambda: self.desktop.screen.window(START_TITLE), guests=[terminal])
         wait_for("its focus", lambda: self.desktop.screen.active_window() == start)
         self.desktop.screen.key("Return")
@@ -53,9 +66,7 @@ class OtherApplications(MachineCase):
         self.desktop.screen.key("Return")
         for guest in [*victims, kept[1]]:
             guest.wait_exit()
-        screen = self.desktop.screen
-        session = wait_for("the session", lambda: screen.window(SESSION_TITLE), guests=[terminal])
-        wait_for("its full screen", lambda: screen.is_fullscreen(session), guests=[terminal])
+        session = self.session_in_full_screen(terminal)
 
         # Each tick asks what has come meanwhile, and leaves the session where it is.
         notifier = self.victim("Xfce4-notifyd")
@@ -64,6 +75,13 @@ class OtherApplications(MachineCase):
             self.assertTrue(self.desktop.screen.is_fullscreen(session))
         for guest in (kept[0], notifier, terminal):
             self.assertIsNone(guest.exit_status(), guest.describe_end())
+
+    def session_in_full_screen(self, terminal):
+        def session():
+            window = self.desktop.screen.window(SESSION_TITLE)
+            return window if window and self.desktop.screen.is_fullscreen(window) else None
+
+        return wait_for("the session in full screen", session, guests=[terminal])
 
 
 class Keys(MachineCase):
@@ -136,9 +154,7 @@ class Bundle(MachineCase):
         arguments += ["--bind", str(self.stage / "Applications"), "/Applications", *command]
         return self.desktop.spawn(arguments, environment=self.environment, name="bundle")
 
-    def assert_only_the_bundle_is_gone(self, guest):
-        guest.wait_exit()
-        self.assertEqual(guest.exit_status(), 0, guest.describe_end())
+    def assert_only_the_bundle_is_gone(self):
         self.assertFalse(self.bundle.exists())
         self.assertTrue(self.copy.is_dir() and self.outside.exists())
 
@@ -147,10 +163,14 @@ class Bundle(MachineCase):
         guest.wait_for_line("Gelen veri null")
         self.wait_for_alert(UPDATE_TITLE)
         self.desktop.screen.key("Return")
-        self.assert_only_the_bundle_is_gone(guest)
+        guest.wait_exit()
+        self.assertEqual(guest.exit_status(), 0, guest.describe_end())
+        self.assertEqual([line.text for line in guest.lines("stdout")][-1], "Uygulama başarıyla silindi.")
+        self.assert_only_the_bundle_is_gone()
 
     def test_the_removal_button_asks_first(self):
-        guest = self.spawn_in_root(f"{client_case.build_folder()}/demo/orken-demo", self.provider().ready_file)
+        program = f"{client_case.build_folder()}/demo/orken-demo"
+        guest = self.spawn_in_root(program, self.provider().ready_file)
         start = wait_for("the start window", lambda: self.desktop.screen.window(START_TITLE), guests=[guest])
         guest.wait_for_line("Başarılı: ")
         # The first question is answered with "Hayır", the second with "Evet".
@@ -162,7 +182,9 @@ class Bundle(MachineCase):
             self.assertTrue(self.bundle.exists())
             for key in [*to_answer, "Return"]:
                 self.desktop.screen.key(key)
-        self.assert_only_the_bundle_is_gone(guest)
+        guest.wait_exit()
+        self.assertEqual(guest.exit_status(), 0, guest.describe_end())
+        self.assert_only_the_bundle_is_gone()
 
 
 if __name__ == "__main__":

@@ -36,9 +36,17 @@ class PageCase(ClientCase):
 class LoginField(PageCase):
     def test_the_form_gets_the_field_once(self):
         provider = self.provider()
-        client, _ = self.open_login_page(provider)
+        client = self.client(provider)
+        client.open_application()
+        client.wait_for_login_page()
+        client.guest.wait_for_line("json: ")
         (seen,) = client.wait_for("the field", lambda: self.seen(provider, "param"))
         self.assertEqual(seen, "what=param&value=", "the cipher refuses a key of 36 bytes")
+        line = next(line for line in self.stdout(client) if line.startswith("json: "))
+        (device,) = json.loads(line.removeprefix("json: "))
+        self.assertEqual(device["OsName"], "mac")
+        self.assertEqual(device["DiskSerial"], pathlib.Path("/etc/machine-id").read_text(encoding="ascii").strip())
+        self.assertEqual(device["Ip"], "203.0.113.7")
         # The script ends with the page's own selection, which no engine hands out.
         client.guest.wait_for_line("JavaScript execution failed: ")
         self.assertEqual(client.guest.terminate(), 0)
@@ -70,12 +78,19 @@ class Documents(PageCase):
         address = f"https://{provider.address}/documents/ornek.pdf?size={20 * MEGABYTES}"
         with urllib.request.urlopen(address, context=trust) as answer:
             self.assertEqual(file.read_bytes(), answer.read())
-        client.wait_for("the alert", lambda: self.desktop.screen.active_title() not in ("", SESSION_TITLE))
+        self.assertIn(f"{file.name} başarıyla indirildi.", self.stdout(client))
+        self.assertIn("PDF dosyası bulundu, indiriliyor.", self.stdout(client))
+
+        count = len(self.desktop.screen.windows())
+        client.wait_for("the alert", lambda: len(self.desktop.screen.windows()) > count or self.alert_is_up())
         self.desktop.screen.key("Return")
         # This desktop has no file manager: the place is told in the log instead.
         line = client.guest.wait_for_line("no file manager could be opened").text
         self.assertIn(str(file), line)
         self.assertEqual(client.guest.terminate(), 0)
+
+    def alert_is_up(self):
+        return self.desktop.screen.active_title() not in ("", SESSION_TITLE)
 
     def press_button(self, place):
         """The page's first button has the focus. A page may open windows only after a user's deed."""
@@ -107,6 +122,7 @@ class Documents(PageCase):
     def test_other_types_and_broken_blobs_are_a_line_and_no_file(self):
         expected = {
             "hand=link&type=image/png": "Verilen veri PDF değil, işlemi durdur.",
+            "hand=link&type=": "Verilen veri PDF değil, işlemi durdur.",
             "hand=gone": "Veri çözümlenemedi: Error Domain=WebKitJavascriptError Code=699 ",
             "hand=quote": "Veri çözümlenemedi: Error Domain=WebKitJavascriptError Code=699 ",
         }
@@ -116,6 +132,12 @@ class Documents(PageCase):
                 client.guest.wait_for_line(line)
                 self.assertEqual(self.downloads(), [])
                 self.assertEqual(client.guest.terminate(), 0)
+
+    def test_a_folder_that_cannot_be_made_is_a_line(self):
+        (self.home() / "Downloads").write_text("in the way", encoding="ascii")
+        client, _ = self.open_page("/documents?hand=link")
+        client.guest.wait_for_line("Dosya kaydedilirken bir hata oluştu: ")
+        self.assertEqual(client.guest.terminate(), 0)
 
 
 class Engine(PageCase):
@@ -140,7 +162,9 @@ class Engine(PageCase):
 
     def test_the_client_goes_on_after_its_network_process_died(self):
         provider = self.provider()
-        client, _ = self.open_login_page(provider)
+        client = self.client(provider)
+        client.open_application()
+        client.wait_for_login_page()
         client.wait_for("the field", lambda: self.seen(provider, "param"))
         self.kill(client, "WebKitNetworkProcess")
         self.desktop.screen.type("öğrenci\tgizli\n")
@@ -151,9 +175,16 @@ class Engine(PageCase):
         client, provider = self.open_page("/tries")
         windows = [window.title for window in self.desktop.screen.windows()]
         provider.wait_for_request("the end of the tries", lambda r: "what=tries-done" in r["query"], limit=120)
-        tries = [query.split("name=")[1] for query in self.seen(provider, "try")]
-        results = {one.split("&")[0]: one.split("result=")[1] for one in tries}
-        expected = {"alert": "returned", "confirm": "false", "prompt": "null", "print": "returned", "open": "null"}
+        results = dict(
+            (query.split("name=")[1].split("&")[0], query.split("result=")[1]) for query in self.seen(provider, "try")
+        )
+        expected = {
+            "alert": "returned",
+            "confirm": "false",
+            "prompt": "null",
+            "print": "returned",
+            "open": "null",
+        }
         self.assertEqual({name: results.get(name) for name in expected}, expected)
         for name in ("geolocation", "notification", "camera", "fullscreen"):
             self.assertNotIn(results[name], ("allowed", "granted", "entered", "never"), name)

@@ -26,8 +26,12 @@ class Person(ClientCase):
 
     def hears(self, role, name, window=None):
         """The element, once the screen has it."""
-        find = self.accessibility.find
-        return wait_for(f"{role} {name!r}", lambda: (e := find(role, name)) and window in (None, e.window) and e)
+
+        def found():
+            element = self.accessibility.find(role, name)
+            return element if element and window in (None, element.window) else None
+
+        return wait_for(f"{role} {name!r}", found)
 
     def press(self, name, window):
         """Clicks the middle of the button with this name."""
@@ -38,10 +42,12 @@ class Person(ClientCase):
         area = self.accessibility.extents(element)
         return Rectangle(frame.x + area.x, frame.y + area.y, area.width, area.height)
 
+    def contrast(self, element):
+        return self.desktop.screen.image().contrast(self.on_screen(element))
+
     def assert_can_be_read(self, name, window):
         element = self.hears("label", name, window)
-        contrast = lambda: self.desktop.screen.image().contrast(self.on_screen(element))
-        wait_for(f"{name!r} to be told from what is behind it", lambda: contrast() >= 4.5)
+        wait_for(f"{name!r} to be told from what is behind it", lambda: self.contrast(element) >= 4.5)
 
     def focus_moves_to(self, name):
         """With the next Tab, for the eye and for the ear."""
