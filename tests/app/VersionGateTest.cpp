@@ -27,8 +27,9 @@ TEST(VersionGate, anotherVersionIsAskedForOnlyWhenItIsNewer)
         client.desktop.network.routes[Client::kSettings] = {.body =
                                                                 R"({"other": 1, "macVersion": ")" + described + "\"}"};
         client.start();
-        std::vector<std::string> lines{"print Mevcut Sürüm: " + current + " - Gerekli Sürüm: " + required,
-                                       "print Başarılı: AppData(macVersion: \"" + described + "\")"};
+        std::string compared = "print Mevcut Sürüm: " + current;
+        compared += " - Gerekli Sürüm: " + required;
+        std::vector<std::string> lines{compared, "print Başarılı: AppData(macVersion: \"" + described + "\")"};
         if (isNewer) {
             lines.insert(lines.begin() + 1, {"print ", "print Uygulama güncelleme gerekli."});
         }
