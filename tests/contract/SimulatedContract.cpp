@@ -34,7 +34,7 @@ public:
 
     [[nodiscard]] std::string untrustedPage() override
     {
-        const std::string address = "https://untrusted.example/";
+        std::string address = "https://untrusted.example/";
         desktop_.browserViews.site[address] = {.untrusted = true};
         return address;
     }
